@@ -1,0 +1,31 @@
+#pragma once
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace figures {
+
+enum class ErrorKind { DivisionByZero, TypeMismatch, SubscriptOutOfRange, Overflow, FloatingPoint };
+
+/// A computation that cannot go on. what() is a sentence for the user: the kind, a colon, `detail`, a full stop
+/// ("Division by zero: the equivalent length of segment 3 is 0.").
+class RunTimeError : public std::runtime_error {
+public:
+    static constexpr int NoRow = -1;
+
+    /// `row` is the row at fault, counted from 0, so that the screen can bring it into view.
+    RunTimeError(ErrorKind kind, const std::string& detail, int row = NoRow);
+
+    ErrorKind kind() const { return m_kind; }
+    int row() const { return m_row; }
+
+private:
+    ErrorKind m_kind;
+    int m_row;
+};
+
+/// `name` with the number of the row as the screen counts it, from 1: numbered("the length of gang", 1) is
+/// "the length of gang 2".
+std::string numbered(std::string_view name, int row);
+
+}  // namespace figures
