@@ -1,0 +1,14 @@
+#pragma once
+#include "store/reader/table_walk.h"
+
+namespace store {
+
+/// Opens the data file at `path`, whatever lies there: a pipe or a device is not waited for. Reads no more than the
+/// header. Throws Refused.
+Source openSource(const char* path);
+
+/// Page on which the definition of the table `name` starts, by the file's own catalogue; capitals do not matter.
+/// Throws Refused.
+unsigned long findTable(const Source& source, std::string_view name);
+
+}  // namespace store

@@ -1,0 +1,255 @@
+// What becomes of the program when its reader misbehaves: a plain reason, before long, and nothing left behind.
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <fstream>
+#include <iterator>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "store/data_file.h"
+#include "store/files.h"
+
+namespace store {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+constexpr auto Deadline = milliseconds(400);
+constexpr auto Patience = Deadline + milliseconds(1500);  // for a machine that is busy with something else
+
+const std::filesystem::path StandIn = CREWMARK_STAND_IN;
+
+std::ptrdiff_t openFiles()
+{
+    const std::filesystem::directory_iterator files("/proc/self/fd");
+    return std::distance(begin(files), end(files));
+}
+
+void expectNoChildren()
+{
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child was left";
+    EXPECT_EQ(errno, ECHILD);
+}
+
+/// Gone, or dead and only not yet buried by the system.
+bool isGone(const std::string& process)
+{
+    std::ifstream file("/proc/" + process + "/stat");
+    std::string line;
+    std::getline(file, line);
+    return line.empty() || line.find(") Z ") != std::string::npos;
+}
+
+const std::string Damaged = "\"x.mdb\" is damaged: reading its table \"HOW\" had to be given up. Use another copy of "
+                            "the file, or type the figures.";
+const std::string TooSlow = "Reading the table \"HOW\" of \"x.mdb\" took too long: the file may be damaged. Use "
+                            "another copy of the file, or type the figures.";
+const std::string TooLarge =
+    "The table \"HOW\" of \"x.mdb\" is too large to be read. Choose the .mdb file of the Sr SE.";
+const std::string NoAnswer =
+    "\"x.mdb\" could not be read: the program that reads data files gave no proper answer. Install Crewmark again.";
+const std::string NotStarted =
+    "\"x.mdb\" could not be read: the program that reads data files could not be started. Install Crewmark again.";
+
+struct Misbehaviour {
+    const char* how;
+    std::string reason;
+};
+
+class MisbehavingReader : public testing::TestWithParam<Misbehaviour> {};
+
+TEST_P(MisbehavingReader, EndsInAPlainReason)
+{
+    const auto& [how, expected] = GetParam();
+    std::string reason = expected;
+    if (const std::size_t at = reason.find("HOW"); at != std::string::npos)
+        reason.replace(at, 3, how);
+
+    const std::ptrdiff_t filesBefore = openFiles();
+    const Clock::time_point start = Clock::now();
+    const Reading reading = DataFile(StandIn, Deadline).read("/folder/x.mdb", how);
+
+    EXPECT_LT(Clock::now() - start, Patience);
+    EXPECT_EQ(reading.reason, reason);
+    EXPECT_EQ(reading.notice, "");
+    EXPECT_EQ(reading.table.rows(), 0);
+    EXPECT_EQ(openFiles(), filesBefore) << "a file was left open";
+    expectNoChildren();
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Ways, MisbehavingReader, testing::Values(
+    Misbehaviour{"crash",           Damaged},
+    Misbehaviour{"abort",           Damaged},
+    Misbehaviour{"crash after all", Damaged},
+    Misbehaviour{"out of time",     TooSlow},
+    Misbehaviour{"hang",            TooSlow},
+    Misbehaviour{"hang after all",  TooSlow},
+    Misbehaviour{"hang silently",   TooSlow},
+    Misbehaviour{"ignore signals",  TooSlow},
+    Misbehaviour{"trickle",         TooSlow},
+    Misbehaviour{"flood",           TooLarge},
+    Misbehaviour{"nonsense",        NoAnswer},
+    Misbehaviour{"silence",         NoAnswer},
+    Misbehaviour{"cut",             NoAnswer},
+    Misbehaviour{"lie",             NoAnswer},
+    Misbehaviour{"fail",            NoAnswer},
+    Misbehaviour{"fail after all",  NoAnswer},
+    Misbehaviour{"not started",     NotStarted}),
+    [](const auto& tested) {
+        std::string name = tested.param.how;
+        std::replace(name.begin(), name.end(), ' ', '_');
+        return name;
+    });
+// clang-format on
+
+TEST(ReaderProcess, AGoodAnswerIsTakenByteByByte)
+{
+    for (const char* how : {"good", "slow"}) {
+        const Reading reading = DataFile(StandIn, milliseconds(5000)).read("x.mdb", how);
+        EXPECT_EQ(reading.reason, "") << how;
+        EXPECT_EQ(gridOf(reading.table), (Grid{{"A"}, {"1"}})) << how;
+    }
+}
+
+TEST(ReaderProcess, WhatItStartedIsStoppedWithIt)
+{
+    const Folder folder;
+    const std::filesystem::path note = folder.path() / "x.mdb";
+    const Clock::time_point start = Clock::now();
+    const Reading reading = DataFile(StandIn, Deadline).read(note, "leave child");
+    EXPECT_LT(Clock::now() - start, Patience);
+    EXPECT_NE(reading.reason, "");  // the output was never closed
+
+    const std::string child = bytesOf(note);
+    ASSERT_FALSE(child.empty());
+    for (int i = 0; i < 100 && !isGone(child); ++i)
+        std::this_thread::sleep_for(milliseconds(10));
+    EXPECT_TRUE(isGone(child)) << "process " << child;
+}
+
+TEST(ReaderProcess, ThereIsNoSuchProgram)
+{
+    const Folder folder;
+    const std::filesystem::path text = folder.path() / "text";
+    std::ofstream(text) << "no program\n";
+    const std::filesystem::path program = folder.path() / "program";
+    std::ofstream(program) << "no program\n";
+    std::filesystem::permissions(program, std::filesystem::perms::all);
+
+    for (const std::filesystem::path& reader : {folder.path() / "missing", text, program, folder.path(), {}}) {
+        const std::ptrdiff_t filesBefore = openFiles();
+        const Reading reading = DataFile(reader).read("x.mdb", "TR");
+        EXPECT_EQ(reading.reason, NotStarted) << reader;
+        EXPECT_EQ(reading.table.rows(), 0) << reader;
+        EXPECT_EQ(openFiles(), filesBefore) << reader;
+        expectNoChildren();
+    }
+}
+
+TEST(ReaderProcess, NothingIsPassedOnToIt)
+{
+    const int inherited = open("/dev/null", O_RDONLY);  // not closed by itself when another program starts
+    ASSERT_GE(inherited, 0);
+    const auto before = std::signal(SIGPIPE, SIG_IGN);
+    const Reading reading = DataFile(StandIn).read("x.mdb", "surroundings");
+    std::signal(SIGPIPE, before);
+    close(inherited);
+    EXPECT_EQ(gridOf(reading.table), (Grid{{"nothing"}}));
+}
+
+TEST(ReaderProcess, PathAndTableArriveUnchanged)
+{
+    const Reading reading = DataFile(StandIn).read("/a b/\"c\"\n/-d $(e)", "arguments");
+    EXPECT_EQ(gridOf(reading.table), (Grid{{"/a b/\"c\"\n/-d $(e)", "arguments"}}));
+}
+
+TEST(ReaderProcess, ASignalInBetweenDoesNotDisturb)
+{
+    struct sigaction doNothing {};
+    struct sigaction before {};
+    doNothing.sa_handler = [](int) {};  // and no SA_RESTART: calls are interrupted
+    sigaction(SIGUSR1, &doNothing, &before);
+    const pthread_t reading = pthread_self();
+    std::atomic<bool> done = false;
+    std::thread disturber([&] {
+        while (!done) {
+            pthread_kill(reading, SIGUSR1);
+            std::this_thread::sleep_for(milliseconds(1));
+        }
+    });
+    const Reading good = DataFile(StandIn, milliseconds(5000)).read("x.mdb", "slow");
+    const Clock::time_point start = Clock::now();
+    const Reading hanging = DataFile(StandIn, Deadline).read("x.mdb", "hang");
+    const auto took = Clock::now() - start;
+    done = true;
+    disturber.join();
+    sigaction(SIGUSR1, &before, nullptr);
+
+    EXPECT_EQ(good.reason, "");
+    EXPECT_NE(hanging.reason, "");
+    EXPECT_GE(took, Deadline);
+    EXPECT_LT(took, Patience);
+}
+
+TEST(ReaderProcess, WithoutStandardStreamsItWorksAsWell)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        close(0);
+        close(1);
+        close(2);
+        const bool good = DataFile().read(sample("1-ambapur.mdb"), "TR").table.rows() == 6;
+        _exit(good ? 0 : 1);
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+}
+
+TEST(ReaderProcess, ItWorksWhereChildrenAreLeftToTheSystem)
+{
+    const auto before = std::signal(SIGCHLD, SIG_IGN);
+    const Reading reading = DataFile().read(sample("1-ambapur.mdb"), "TR");
+    const Reading crash = DataFile(StandIn, Deadline).read("x.mdb", "crash");
+    std::signal(SIGCHLD, before);
+    EXPECT_EQ(reading.reason, "");
+    EXPECT_EQ(reading.table.rows(), 6);  // headings + 5 segments
+    EXPECT_NE(crash.reason, "");
+}
+
+TEST(ReaderProcess, ManyAtATimeDoNotMeet)
+{
+    std::vector<std::thread> threads;
+    std::atomic<int> good = 0;
+    for (int i = 0; i < 8; ++i)
+        threads.emplace_back([&good, i] {
+            const char* const table = AllTables[static_cast<std::size_t>(i) % AllTables.size()];
+            for (int round = 0; round < 5; ++round)
+                if (gridOf(DataFile().read(sample("1-ambapur.mdb"), table).table) == expectedGrid("1-ambapur", table))
+                    ++good;
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(good, 8 * 5);
+}
+
+TEST(ReaderProcess, TheInstalledReaderIsBesideTheProgram)
+{
+    const std::filesystem::path reader = DataFile::installedReader();
+    EXPECT_EQ(reader.filename(), "crewmark-reader");
+    EXPECT_EQ(access(reader.c_str(), X_OK), 0) << reader;
+}
+
+}  // namespace
+}  // namespace store
