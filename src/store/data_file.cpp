@@ -88,7 +88,7 @@ std::filesystem::path DataFile::installedReader()
 {
     std::error_code error;
     const std::filesystem::path here = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-    const std::filesystem::path installed = here / ".." / "libexec" / "crewmark" / "crewmark-reader";
+    std::filesystem::path installed = here / ".." / "libexec" / "crewmark" / "crewmark-reader";
     if (std::filesystem::exists(installed, error))
         return installed;
     return here / "crewmark-reader";

@@ -4,13 +4,13 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <ctime>
 
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/types.h>
 #include <sys/wait.h>
-#include <time.h>
 #include <unistd.h>
 
 namespace store {

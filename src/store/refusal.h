@@ -25,7 +25,8 @@ enum class Refusal : std::uint8_t {
     NotStarted,
 };
 
-/// What the user asked for, by the names on the screen: the name of the data file (without its folders) and of the table.
+/// What the user asked for, by the names on the screen: the name of the data file (without its folders) and of the
+/// table.
 struct Asked {
     std::string file;
     std::string table;

@@ -94,6 +94,7 @@ void tryRecipe(std::mt19937& random)
 
 }  // namespace
 
+// NOLINTNEXTLINE(readability-identifier-naming): the name that the fuzzer calls
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string bytes(reinterpret_cast<const char*>(data), size);

@@ -78,8 +78,8 @@ std::string bytesOfDouble(double value)
 // D, M, N, Y, T, O, W. Byte 0 of them is the kind, byte 16 the further properties.
 constexpr std::size_t Definition = 24;
 constexpr std::size_t CountOfRecords = 16;
-constexpr std::size_t columnOfD = 63 + 4 * 25;
-constexpr std::size_t columnOfO = 63 + 9 * 25;
+constexpr std::size_t ColumnOfD = 63 + 4 * 25;
+constexpr std::size_t ColumnOfO = 63 + 9 * 25;
 
 TEST(DataFileDamage, NothingChangedNothingSaid)
 {
@@ -91,8 +91,8 @@ TEST(DataFileDamage, NothingChangedNothingSaid)
 TEST(DataFileDamage, ColumnsOfKindsThatAreNotReadAreNamed)
 {
     const Reading reading = Changed("column-types.mdb")
-                                .set(Definition, columnOfD, "\x13")  // a whole number of 64 bits
-                                .set(Definition, columnOfO, "\x0b")  // a picture
+                                .set(Definition, ColumnOfD, "\x13")  // a whole number of 64 bits
+                                .set(Definition, ColumnOfO, "\x0b")  // a picture
                                 .read();
     EXPECT_EQ(reading.reason, "");
     EXPECT_EQ(reading.notice, "The columns D, O are of a kind that cannot be read, and shown empty.");
@@ -101,7 +101,7 @@ TEST(DataFileDamage, ColumnsOfKindsThatAreNotReadAreNamed)
 
 TEST(DataFileDamage, CalculatedColumnsAreNamed)
 {
-    const Reading reading = Changed("column-types.mdb").set(Definition, columnOfD + 16, "\xc0").read();
+    const Reading reading = Changed("column-types.mdb").set(Definition, ColumnOfD + 16, "\xc0").read();
     EXPECT_EQ(reading.reason, "");
     EXPECT_EQ(reading.notice, "The column D is of a kind that cannot be read, and shown empty.");
     EXPECT_EQ(gridOf(reading.table), gridWithout("column-types.mdb", {{1, 4}, {2, 4}, {3, 4}, {4, 4}}));

@@ -106,7 +106,7 @@ TEST(DataFilePath, ATablesNameMayHoldAnything)
     for (const std::string& name :
          {std::string("TR\0", 3), std::string("-"), std::string("\xff"), std::string(5000, 'T')})
         EXPECT_EQ(DataFile().read(sample("1-ambapur.mdb"), name).reason,
-                  "\"1-ambapur.mdb\" holds no table \"" + name + "\"." + ChooseFile);
+                  std::string(R"("1-ambapur.mdb" holds no table ")").append(name).append("\"." + ChooseFile));
 }
 
 TEST(DataFilePath, AFolderIsNoFile)
@@ -144,6 +144,7 @@ TEST(DataFilePath, AHugeFileIsAnsweredAtOnce)
     // A good file with a long tail: nothing of the tail belongs to its tables.
     const std::filesystem::path tail = folder.path() / "tail.mdb";
     std::filesystem::copy_file(sample("1-ambapur.mdb"), tail);
+    std::filesystem::permissions(tail, std::filesystem::perms::owner_all);
     std::filesystem::resize_file(tail, std::uintmax_t{2} << 30);
     const Clock::time_point start = Clock::now();
     const Reading reading = DataFile().read(tail, "TR");
@@ -155,7 +156,7 @@ TEST(DataFilePath, AHugeFileIsAnsweredAtOnce)
 /// For as long as this lives the program may read only what everybody may read. Root has to give up its rights.
 class AsNobody {
 public:
-    AsNobody() { m_given = geteuid() != 0 || seteuid(65534) == 0; }
+    AsNobody() : m_given(geteuid() != 0 || seteuid(65534) == 0) {}
     ~AsNobody()
     {
         if (getuid() == 0 && seteuid(0) != 0)
@@ -167,7 +168,7 @@ public:
     bool given() const { return m_given && access("/proc/self/exe", X_OK) == 0; }
 
 private:
-    bool m_given = false;
+    bool m_given;
 };
 
 TEST(DataFilePath, AFileThatMayNotBeReadSaysSo)

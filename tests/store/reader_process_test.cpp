@@ -25,7 +25,7 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 constexpr auto Deadline = milliseconds(400);
-constexpr auto Patience = Deadline + milliseconds(1500);  // for a machine that is busy with something else
+constexpr auto Patience = milliseconds(1500);  // with a machine that is busy with something else
 
 const std::filesystem::path StandIn = CREWMARK_STAND_IN;
 
@@ -50,36 +50,34 @@ bool isGone(const std::string& process)
     return line.empty() || line.find(") Z ") != std::string::npos;
 }
 
-const std::string Damaged = "\"x.mdb\" is damaged: reading its table \"HOW\" had to be given up. Use another copy of "
-                            "the file, or type the figures.";
-const std::string TooSlow = "Reading the table \"HOW\" of \"x.mdb\" took too long: the file may be damaged. Use "
-                            "another copy of the file, or type the figures.";
-const std::string TooLarge =
-    "The table \"HOW\" of \"x.mdb\" is too large to be read. Choose the .mdb file of the Sr SE.";
-const std::string NoAnswer =
-    "\"x.mdb\" could not be read: the program that reads data files gave no proper answer. Install Crewmark again.";
-const std::string NotStarted =
-    "\"x.mdb\" could not be read: the program that reads data files could not be started. Install Crewmark again.";
+// clang-format off
+const std::string Damaged =    R"("x.mdb" is damaged: reading its table "HOW" had to be given up. Use another copy of the file, or type the figures.)";
+const std::string TooSlow =    R"(Reading the table "HOW" of "x.mdb" took too long: the file may be damaged. Use another copy of the file, or type the figures.)";
+const std::string TooLarge =   R"(The table "HOW" of "x.mdb" is too large to be read. Choose the .mdb file of the Sr SE.)";
+const std::string NoAnswer =   R"("x.mdb" could not be read: the program that reads data files gave no proper answer. Install Crewmark again.)";
+const std::string NotStarted = R"("x.mdb" could not be read: the program that reads data files could not be started. Install Crewmark again.)";
+// clang-format on
 
 struct Misbehaviour {
     const char* how;
     std::string reason;
+    milliseconds deadline = Deadline;
 };
 
 class MisbehavingReader : public testing::TestWithParam<Misbehaviour> {};
 
 TEST_P(MisbehavingReader, EndsInAPlainReason)
 {
-    const auto& [how, expected] = GetParam();
+    const auto& [how, expected, deadline] = GetParam();
     std::string reason = expected;
     if (const std::size_t at = reason.find("HOW"); at != std::string::npos)
         reason.replace(at, 3, how);
 
     const std::ptrdiff_t filesBefore = openFiles();
     const Clock::time_point start = Clock::now();
-    const Reading reading = DataFile(StandIn, Deadline).read("/folder/x.mdb", how);
+    const Reading reading = DataFile(StandIn, deadline).read("/folder/x.mdb", how);
 
-    EXPECT_LT(Clock::now() - start, Patience);
+    EXPECT_LT(Clock::now() - start, deadline + Patience);
     EXPECT_EQ(reading.reason, reason);
     EXPECT_EQ(reading.notice, "");
     EXPECT_EQ(reading.table.rows(), 0);
@@ -98,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(Ways, MisbehavingReader, testing::Values(
     Misbehaviour{"hang silently",   TooSlow},
     Misbehaviour{"ignore signals",  TooSlow},
     Misbehaviour{"trickle",         TooSlow},
-    Misbehaviour{"flood",           TooLarge},
+    Misbehaviour{"flood",           TooLarge, milliseconds(10'000)},  // stopped by its size, not by the clock
     Misbehaviour{"nonsense",        NoAnswer},
     Misbehaviour{"silence",         NoAnswer},
     Misbehaviour{"cut",             NoAnswer},
@@ -128,7 +126,7 @@ TEST(ReaderProcess, WhatItStartedIsStoppedWithIt)
     const std::filesystem::path note = folder.path() / "x.mdb";
     const Clock::time_point start = Clock::now();
     const Reading reading = DataFile(StandIn, Deadline).read(note, "leave child");
-    EXPECT_LT(Clock::now() - start, Patience);
+    EXPECT_LT(Clock::now() - start, Deadline + Patience);
     EXPECT_NE(reading.reason, "");  // the output was never closed
 
     const std::string child = bytesOf(note);
@@ -199,7 +197,7 @@ TEST(ReaderProcess, ASignalInBetweenDoesNotDisturb)
     EXPECT_EQ(good.reason, "");
     EXPECT_NE(hanging.reason, "");
     EXPECT_GE(took, Deadline);
-    EXPECT_LT(took, Patience);
+    EXPECT_LT(took, Deadline + Patience);
 }
 
 TEST(ReaderProcess, WithoutStandardStreamsItWorksAsWell)
@@ -231,6 +229,7 @@ TEST(ReaderProcess, ItWorksWhereChildrenAreLeftToTheSystem)
 TEST(ReaderProcess, ManyAtATimeDoNotMeet)
 {
     std::vector<std::thread> threads;
+    threads.reserve(8);
     std::atomic<int> good = 0;
     for (int i = 0; i < 8; ++i)
         threads.emplace_back([&good, i] {

@@ -13,13 +13,6 @@ namespace store {
 
 namespace {
 
-void appendWhole(std::string& out, std::int64_t value)
-{
-    std::array<char, 24> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-    out.append(digits.data(), end);
-}
-
 /// `digits` with a point before the last `scale` of them and without trailing zeros behind it: "12500", 3 is "12.5".
 void appendScaled(std::string& out, bool negative, std::string digits, std::size_t scale)
 {
@@ -76,7 +69,7 @@ bool appendReal(std::string& out, Real value, int mostDigits)
     if (value == 0)
         value = 0;  // without a sign
     std::array<char, 32> text{};
-    const auto end =
+    char* const end =
         std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, mostDigits).ptr;
     out.append(text.data(), end);
     return true;
@@ -221,13 +214,13 @@ bool appendNumber(std::string& out, Kind kind, Bytes stored, int scale)
     const std::uint64_t bits = lowByteFirst(stored, 0, std::min<std::size_t>(stored.size(), 8));
     switch (kind) {
     case Kind::Byte:
-        appendWhole(out, static_cast<std::uint8_t>(bits));
+        out += std::to_string(static_cast<std::uint8_t>(bits));
         return true;
     case Kind::Integer:
-        appendWhole(out, static_cast<std::int16_t>(bits));
+        out += std::to_string(static_cast<std::int16_t>(bits));
         return true;
     case Kind::Long:
-        appendWhole(out, static_cast<std::int32_t>(bits));
+        out += std::to_string(static_cast<std::int32_t>(bits));
         return true;
     case Kind::Currency:
         return appendCurrency(out, bits);

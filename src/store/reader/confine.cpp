@@ -88,6 +88,9 @@ void shutProcessesAndNetwork()
         finish(SECCOMP_RET_KILL_PROCESS),  // calls by another architecture's numbers
         load(offsetof(seccomp_data, nr)),
     };
+    // Of x86-64 there is a second set of numbers, above the first.
+    constexpr unsigned secondSet = 0x40000000;
+    filter.push_back({BPF_JMP | BPF_JGE | BPF_K, static_cast<unsigned char>(std::size(refused) + 1), 0, secondSet});
     for (std::size_t left = std::size(refused); left > 0; --left)
         filter.push_back(compare(static_cast<unsigned>(refused[std::size(refused) - left]), left, 0));
     filter.push_back(finish(SECCOMP_RET_ALLOW));

@@ -42,29 +42,23 @@ bool isKnown(int kind)
 
 }  // namespace
 
-TableWalk::TableWalk(const Source& source, unsigned long page) : m_source(source)
+TableWalk::TableWalk(const Source& source, unsigned long page)
+    : m_source(source),
+      m_entry{.mdb = source.mdb,
+              .object_name = "",
+              .object_type = MDB_TABLE,
+              .table_pg = page,
+              .props = nullptr,
+              .flags = 0},
+      m_table(read(page) ? mdb_read_table(&m_entry) : nullptr, mdb_free_tabledef)
 {
-    m_entry.mdb = source.mdb;
-    m_entry.object_type = MDB_TABLE;
-    m_entry.table_pg = page;
-    m_table = read(page) ? mdb_read_table(&m_entry) : nullptr;
-    try {
-        if (!m_table || !m_table->usage_map || m_table->map_sz == 0)
-            throw Refused{Refusal::Damaged};
-        if (m_table->num_cols == 0 || m_table->num_cols > wire::MaxColumns || m_table->num_real_idxs > MostIndexes)
-            throw Refused{Refusal::Damaged};
-        readColumns();
-    } catch (const Refused&) {
-        mdb_free_tabledef(m_table);
-        throw;
-    }
+    if (!m_table || !m_table->usage_map || m_table->map_sz == 0)
+        throw Refused{Refusal::Damaged};
+    if (m_table->num_cols == 0 || m_table->num_cols > wire::MaxColumns || m_table->num_real_idxs > MostIndexes)
+        throw Refused{Refusal::Damaged};
+    readColumns();
     m_fields.resize(m_table->num_cols);
-    mdb_rewind_table(m_table);
-}
-
-TableWalk::~TableWalk()
-{
-    mdb_free_tabledef(m_table);
+    mdb_rewind_table(m_table.get());
 }
 
 /// The first `count` bytes of the table's definition, which goes on from page to page.
@@ -86,7 +80,7 @@ std::vector<unsigned char> TableWalk::readDefinition(std::size_t count)
 /// The library's columns, brought back into the order of the definition, which is read once more for that.
 void TableWalk::readColumns()
 {
-    const GPtrArray* const sorted = mdb_read_columns(m_table);
+    const GPtrArray* const sorted = mdb_read_columns(m_table.get());
     if (!sorted || sorted->len != m_table->num_cols)
         throw Refused{Refusal::Damaged};
     const auto at = [sorted](std::size_t index) {
@@ -134,7 +128,7 @@ bool TableWalk::read(unsigned long page)
 /// Goes to the table's next page, in the order of the table's map of pages.
 bool TableWalk::nextPage()
 {
-    if (mdb_read_next_dpg(m_table) == 0)
+    if (mdb_read_next_dpg(m_table.get()) == 0)
         return false;
     if (++m_pagesWalked > m_source.size / m_source.pageSize() + 1)
         throw Refused{Refusal::Damaged};  // the map goes in a circle
@@ -207,7 +201,7 @@ bool TableWalk::reach(unsigned slot)
     }
     m_record = place;
     m_fieldsPresent =
-        mdb_crack_row(m_table, place.begin, static_cast<std::size_t>(place.end - place.begin), m_fields.data());
+        mdb_crack_row(m_table.get(), place.begin, static_cast<std::size_t>(place.end - place.begin), m_fields.data());
     if (m_fieldsPresent <= 0) {
         m_recordsLost = true;
         return false;

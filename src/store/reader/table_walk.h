@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -53,7 +54,6 @@ public:
 
     /// The table whose definition starts on `page`. Throws Refused if that is no definition that makes sense.
     TableWalk(const Source& source, unsigned long page);
-    ~TableWalk();
     TableWalk(const TableWalk&) = delete;
     TableWalk& operator=(const TableWalk&) = delete;
 
@@ -89,8 +89,8 @@ private:
     int bytesOnPage(unsigned long page) const;
 
     Source m_source;
-    MdbCatalogEntry m_entry{};
-    MdbTableDef* m_table = nullptr;
+    MdbCatalogEntry m_entry;
+    std::unique_ptr<MdbTableDef, void (*)(MdbTableDef*)> m_table;
     std::vector<Column> m_columns;
 
     std::vector<MdbField> m_fields;  // of the record in hand, in the library's order
