@@ -1,0 +1,15 @@
+#include "compose.h"
+
+#include "screens/flow/chain.h"
+#include "screens/flow/frmStart.h"
+#include "track/frmT1.h"
+#include "track/frmT2.h"
+#include "track/frmT4.h"
+
+void compose(flow::Chain& chain)
+{
+    chain.add<frmStart>([](flow::Chain& c) { return std::make_unique<frmStart>(c); });
+    chain.add<frmT1>([](flow::Chain& c) { return std::make_unique<frmT1>(c, c.get<frmStart>()); });
+    chain.add<frmT2>([](flow::Chain& c) { return std::make_unique<frmT2>(c, c.get<frmStart>(), c.get<frmT1>()); });
+    chain.add<frmT4>([](flow::Chain& c) { return std::make_unique<frmT4>(c, c.get<frmT1>(), c.get<frmT2>()); });
+}

@@ -1,0 +1,36 @@
+#pragma once
+#include <QLabel>
+#include <QStringList>
+
+namespace controls {
+
+/// A label whose text is kept to the letter while runs of blanks in it, which once wrapped it by hand, are shown as
+/// line breaks (three and more) or one blank. What is still too wide wraps at its words; nothing is cut off.
+class Caption : public QLabel {
+public:
+    explicit Caption(const QString& text, QWidget* parent = nullptr);
+
+    /// A heading over several columns: what each line shows, its cells spread evenly over the width.
+    /// Given where the blanks of the text stand for such columns.
+    void setLines(const QList<QStringList>& lines);
+
+    /// The text in one line, without superfluous blanks: for accessible names.
+    QString spoken() const { return text().simplified(); }
+    /// What the lines say over one of `columns` columns: their cells of it, and what stands over all.
+    QString spokenOver(int column, int columns) const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    int longestWord() const;
+
+    QList<QStringList> m_lines;
+};
+
+}  // namespace controls

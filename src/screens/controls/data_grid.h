@@ -1,0 +1,37 @@
+#pragma once
+#include <QTableView>
+
+#include "store/table.h"
+
+namespace controls {
+
+/// A table of the data file to look at: row 0 is the heading row, column 0 the margin. Cells are drawn as they come
+/// into view, so that 20,000 records cost nothing. Ctrl+C copies the selected cells in a spreadsheet's form.
+class DataGrid : public QTableView {
+public:
+    explicit DataGrid(const QString& name);
+
+    void setTable(store::Table table);
+
+    /// A cell's text. Throws RunTimeError (subscript) that names what is missing.
+    QString TextMatrix(int row, int column) const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    class Model;
+
+    int heightOf(int records) const;
+    void fitHeight();
+    void copySelection() const;
+
+    store::Table m_table;
+    Model* m_model;
+};
+
+}  // namespace controls

@@ -1,0 +1,192 @@
+#include "screens/controls/form_layout.h"
+
+#include <QEvent>
+#include <QResizeEvent>
+#include <QScrollBar>
+
+#include "screens/controls/section.h"
+
+namespace controls {
+
+namespace {
+
+constexpr int Margin = 10;
+constexpr int Spacing = 6;
+constexpr int SectionSpacing = 12;
+constexpr int ColumnSpacing = 24;
+
+// As high as what it shows while there is room, so that the table below stands right under the rows.
+class Scroller : public QScrollArea {
+public:
+    Scroller()
+    {
+        setFrameShape(NoFrame);
+        setWidgetResizable(true);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    QSize sizeHint() const override
+    {
+        const QSize content = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+        const int narrowest = widget()->minimumSizeHint().width();
+        const int bar = narrowest > width() ? horizontalScrollBar()->sizeHint().height() : 0;
+        // Captions wrap: a narrow content is higher than its hint. Room for it beside a vertical bar, which could
+        // otherwise not go away again once it was there.
+        const int verticalBar = verticalScrollBar()->sizeHint().width();
+        const QLayout* lines = widget()->layout();
+        const int height = lines && lines->hasHeightForWidth()
+                               ? lines->totalHeightForWidth(std::max(width() - verticalBar, narrowest))
+                               : content.height();
+        return {content.width() + verticalBar, height + bar};
+    }
+
+    QSize minimumSizeHint() const override
+    {
+        const QSize content = widget()->sizeHint();
+        return {200, std::min(content.height(), 6 * (fontMetrics().height() + 9))};
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QScrollArea::resizeEvent(event);
+        if (event->oldSize().width() != event->size().width())
+            updateGeometry();
+    }
+};
+
+}  // namespace
+
+FormLayout::FormLayout(QWidget& form, const QString& title) : m_down(new QVBoxLayout(&form))
+{
+    m_down->setContentsMargins(Margin, Margin, Margin, Margin);
+    m_down->setSpacing(Spacing);
+    auto* header = new QWidget;
+    m_header = new QVBoxLayout(header);
+    m_header->setContentsMargins(0, 0, 0, 0);
+    m_header->setSpacing(Spacing);
+    auto* label = new Caption(title);
+    QFont large = label->font();
+    large.setPointSizeF(large.pointSizeF() * 1.3);
+    large.setBold(true);
+    label->setFont(large);
+    m_header->addWidget(label);
+    m_down->addWidget(addPart(header));
+    m_down->addStretch(0);
+}
+
+QWidget* FormLayout::addPart(QWidget* part)
+{
+    m_parts.append(part);
+    return part;
+}
+
+QHBoxLayout& FormLayout::headerLine()
+{
+    auto* line = new QHBoxLayout;
+    line->setSpacing(Spacing);
+    m_header->addLayout(line);
+    return *line;
+}
+
+void FormLayout::scroll(QWidget* content)
+{
+    auto* scroller = new Scroller;
+    scroller->setWidget(addPart(content));
+    scroller->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    m_down->insertWidget(m_down->count() - 1, scroller);
+}
+
+void FormLayout::addRows(RowSheet* rows)
+{
+    scroll(rows);
+    auto* area = qobject_cast<QScrollArea*>(rows->parentWidget()->parentWidget());
+    QObject::connect(area->verticalScrollBar(), &QScrollBar::valueChanged, rows, &RowSheet::pinHeadings);
+}
+
+QVBoxLayout& FormLayout::sections()
+{
+    auto* content = new QWidget;
+    auto* down = new QVBoxLayout(content);
+    down->setContentsMargins(0, 0, 0, 0);
+    down->setSpacing(Spacing);
+    scroll(content);
+    return *down;
+}
+
+void FormLayout::sections(std::initializer_list<std::initializer_list<Section*>> columns)
+{
+    auto* across = new QHBoxLayout;
+    across->setSpacing(ColumnSpacing);
+    sections().addLayout(across);
+    for (const auto& column : columns) {
+        auto* down = new QVBoxLayout;
+        down->setSpacing(SectionSpacing);
+        for (Section* section : column)
+            down->addWidget(section);
+        down->addStretch();
+        across->addLayout(down);
+    }
+}
+
+void FormLayout::addBelow(QWidget* widget)
+{
+    m_down->insertWidget(m_down->count() - 1, addPart(widget));
+}
+
+QHBoxLayout& FormLayout::lineBelow()
+{
+    auto* holder = new QWidget;
+    auto* line = new QHBoxLayout(holder);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(Spacing);
+    addBelow(holder);
+    return *line;
+}
+
+void FormLayout::buttons(std::initializer_list<Button*> buttons)
+{
+    auto* holder = new QWidget;
+    auto* line = new QHBoxLayout(holder);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(2 * Spacing);
+    line->addStretch();
+    for (Button* button : buttons)
+        line->addWidget(button);
+    m_down->addWidget(addPart(holder));
+}
+
+int widthOf(const QWidget& box, int characters)
+{
+    return characters * box.fontMetrics().horizontalAdvance('0') + 14;
+}
+
+Caption& addField(QBoxLayout& line, const QString& caption, TextBox& box, int characters)
+{
+    auto* label = new Caption(caption);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setBuddy(&box);
+    label->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);  // as its caption wraps, no narrower
+    line.addWidget(label);
+    addBox(line, box, characters, label->spoken());
+    return *label;
+}
+
+void addBox(QBoxLayout& line, TextBox& box, int characters, const QString& spoken)
+{
+    if (characters > 0)
+        box.setFixedWidth(widthOf(box, characters));
+    box.setAccessibleName(spoken);
+    line.addWidget(&box, characters > 0 ? 0 : 1);
+}
+
+}  // namespace controls

@@ -1,0 +1,198 @@
+#include "screens/controls/text_box.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFocusEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QPainter>
+#include <memory>
+
+#include "figures/numeric_text.h"
+#include "figures/picture.h"
+#include "figures/run_time_error.h"
+#include "screens/controls/entry.h"
+#include "screens/controls/tool_tip.h"
+
+namespace controls {
+
+namespace {
+
+// Base, text and placeholder go together: a dark theme must never put its white text on the pale fill.
+constexpr QRgb PaleFill = qRgb(255, 224, 192);
+constexpr QRgb Black = qRgb(0, 0, 0);
+constexpr QRgb Grey = qRgb(96, 96, 96);
+constexpr QRgb Red = qRgb(255, 0, 0);
+constexpr QRgb Remark = qRgb(192, 0, 32);
+
+bool isNumber(const std::string& text)
+{
+    if (text == ".")
+        return true;  // as pictures show 0
+    try {
+        figures::strictSingle(text, "", 0);
+        return true;
+    } catch (const figures::RunTimeError& error) {
+        return error.kind() == figures::ErrorKind::Overflow;
+    }
+}
+
+// "12" where the picture prints "12."
+QString plain(double value)
+{
+    QString text = QString::fromStdString(figures::picture(value, "#.######"));
+    if (text.endsWith('.'))
+        text.chop(1);
+    return text.isEmpty() || text == "-" ? QString("0") : text;
+}
+
+}  // namespace
+
+TextBox::TextBox(const QString& name)
+{
+    setObjectName(name);
+}
+
+void TextBox::setLocked(bool locked)
+{
+    setReadOnly(locked);
+    setFocusPolicy(locked ? Qt::ClickFocus : Qt::StrongFocus);
+    paintFill();
+    updateRemark();
+}
+
+void TextBox::setRed(bool red)
+{
+    m_red = red;
+    paintFill();
+}
+
+void TextBox::paintFill()
+{
+    QPalette fill;
+    if (isLocked()) {
+        fill.setColor(QPalette::Base, PaleFill);
+        fill.setColor(QPalette::Text, Black);
+        fill.setColor(QPalette::PlaceholderText, Grey);
+    }
+    if (m_red)
+        fill.setColor(QPalette::Text, Red);
+    setPalette(fill);
+}
+
+void TextBox::setNumeric()
+{
+    m_numeric = true;
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    connect(this, &QLineEdit::textChanged, this, &TextBox::updateRemark);
+}
+
+void TextBox::setLimit(int limit)
+{
+    m_limit = limit;
+    setNumeric();
+}
+
+QString TextBox::remark() const
+{
+    const std::string entered = text().toStdString();
+    if (!m_numeric || isLocked() || entered.find_first_not_of(' ') == std::string::npos)
+        return {};
+    if (m_limit && figures::countUpTo(*m_limit + 1, entered) > *m_limit)
+        return QString("The most is %1: more counts as %1.").arg(*m_limit);
+    try {
+        const QString counted = plain(figures::valueOf(entered));
+        return isNumber(entered) ? QString()
+                                 : QString("\"%1\" is not a number: it counts as %2.").arg(text().trimmed(), counted);
+    } catch (const figures::RunTimeError&) {
+        return QString("\"%1\" is too large to compute with.").arg(text().trimmed());
+    }
+}
+
+void TextBox::updateRemark()
+{
+    const QString odd = remark();
+    if (odd.isEmpty() && !m_remarked)
+        return;
+    if (!m_remarked)
+        m_ownToolTip = toolTip();
+    m_remarked = !odd.isEmpty();
+    const QString tip = plainTip(odd);
+    setToolTip(m_ownToolTip.isEmpty() || odd.isEmpty() ? m_ownToolTip + tip : tip + "\n" + m_ownToolTip);
+    setAccessibleDescription(odd);
+    update();
+}
+
+void TextBox::keyPressEvent(QKeyEvent* event)
+{
+    if (!handleEntryKey(*this, *event))
+        QLineEdit::keyPressEvent(event);
+}
+
+void TextBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    for (QAction* action : menu->actions()) {
+        if (action->text().section('\t', 0, 0) != QLineEdit::tr("&Paste"))
+            continue;
+        disconnect(action, nullptr, this, nullptr);
+        connect(action, &QAction::triggered, this, [this] {
+            if (!pasteBlock(*this, QGuiApplication::clipboard()->text()))
+                paste();
+        });
+    }
+    menu->exec(event->globalPos());
+}
+
+void TextBox::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    // By keys, one comes to type a new figure over the old one; by the mouse, to mend a digit.
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
+        event->reason() == Qt::OtherFocusReason)
+        selectAll();
+    bringIntoView(*this);
+}
+
+void TextBox::paintEvent(QPaintEvent* event)
+{
+    QLineEdit::paintEvent(event);
+    if (!m_remarked)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(Remark));
+    const int corner = height() / 3;
+    painter.drawPolygon(QPolygon({{1, 1}, {1 + corner, 1}, {1, 1 + corner}}));
+}
+
+double valueOf(const TextBox& box)
+{
+    return figures::valueOf(box.text().toStdString());
+}
+
+int countOf(TextBox& box, int limit)
+{
+    const double count = figures::countUpTo(limit + 1, box.text().toStdString());
+    if (count > limit) {
+        rewrite(box, QString::number(limit));
+        return limit;
+    }
+    return static_cast<int>(std::max(count, 0.0));
+}
+
+void rewrite(TextBox& box, const QString& text)
+{
+    const int cursor = box.cursorPosition();
+    box.setText(text);
+    box.setCursorPosition(cursor);
+}
+
+void setText(TextBox& box, const std::string& text)
+{
+    box.setText(QString::fromStdString(text));
+}
+
+}  // namespace controls

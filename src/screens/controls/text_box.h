@@ -1,0 +1,55 @@
+#pragma once
+#include <QLineEdit>
+#include <optional>
+
+namespace controls {
+
+/// A line of text that may be locked: read-only and filled pale, so that computed figures and facts taken from
+/// an earlier screen look it. setText and typing alike emit textChanged, only when the text really changes.
+class TextBox : public QLineEdit {
+public:
+    explicit TextBox(const QString& name);
+
+    void setLocked(bool locked);
+    bool isLocked() const { return isReadOnly(); }
+
+    /// Red text marks a figure that has to be revised.
+    void setRed(bool red);
+    bool isRed() const { return m_red; }
+
+    /// The box is read as a number: right-aligned, and marked while its text is none.
+    void setNumeric();
+    /// A count: numeric, and marked while it is more than `limit`, which is then what counts.
+    void setLimit(int limit);
+
+    /// What is odd about the text in a sentence for the user ("\"12km\" is not a number: it counts as 12."), or "".
+    /// Only a remark: nothing is refused.
+    QString remark() const;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void paintFill();
+    void updateRemark();
+
+    bool m_red = false;
+    bool m_numeric = false;
+    std::optional<int> m_limit;
+    bool m_remarked = false;
+    QString m_ownToolTip;
+};
+
+/// The figure in the box, by the lenient reading.
+double valueOf(const TextBox& box);
+/// The whole number of rows that a count box asks for, 0 to `limit`. A larger count is rewritten to the limit, which
+/// fires the box's change once more.
+int countOf(TextBox& box, int limit);
+/// Puts something else under the user's hands: the cursor stays where he types.
+void rewrite(TextBox& box, const QString& text);
+void setText(TextBox& box, const std::string& text);
+
+}  // namespace controls

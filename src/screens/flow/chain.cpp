@@ -1,0 +1,168 @@
+#include "screens/flow/chain.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QLocale>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QThread>
+#include <algorithm>
+#include <stdexcept>
+
+namespace flow {
+
+namespace {
+
+constexpr int TickMs = 100;
+constexpr QSize Preferred(1340, 690);  // of a 1366x768 screen, less the desktop's own bars
+constexpr QSize Frame(8, 34);          // a window manager's borders and title bar, at a guess
+
+}  // namespace
+
+Chain::Chain(Dialogs& dialogs, store::DataFile dataFile) : m_dialogs(dialogs), m_dataFile(std::move(dataFile))
+{
+    m_clock.setInterval(TickMs);
+    QObject::connect(&m_clock, &QTimer::timeout, &m_clock, [this] { tick(); });
+}
+
+Chain::~Chain()
+{
+    // Later screens hold on to earlier ones.
+    while (!m_ended.empty())
+        m_ended.pop_back();
+    while (!m_links.empty())
+        m_links.pop_back();
+}
+
+std::size_t Chain::indexOf(std::type_index type) const
+{
+    const auto link = std::find_if(m_links.begin(), m_links.end(), [&](const Link& one) { return one.type == type; });
+    if (link == m_links.end())
+        throw std::logic_error(std::string("no screen of this kind in the chain: ") + type.name());
+    return static_cast<std::size_t>(link - m_links.begin());
+}
+
+Screen& Chain::loaded(Link& link)
+{
+    if (!link.screen)
+        link.screen = link.make(*this);
+    return *link.screen;
+}
+
+void Chain::showNextAfter(const Screen& screen)
+{
+    const auto link =
+        std::find_if(m_links.begin(), m_links.end(), [&](const Link& one) { return one.screen.get() == &screen; });
+    if (link != m_links.end() && link + 1 != m_links.end())
+        bringForward(loaded(*(link + 1)), &screen);
+}
+
+void Chain::unload(Link& link)
+{
+    if (!link.screen)
+        return;
+    link.screen->hide();
+    // Its own handler may be what unloads it.
+    link.screen.release()->deleteLater();
+}
+
+void Chain::end()
+{
+    m_clock.stop();
+    for (Link& link : m_links) {
+        if (!link.screen)
+            continue;
+        link.screen->hide();
+        // A handler of it may be waiting for an answer that never comes: it stays in memory as long as the chain.
+        m_ended.push_back(std::move(link.screen));
+    }
+    // Not quit(), which would have each window close as by its X. Without a loop there is nothing to leave.
+    if (QThread::currentThread()->loopLevel() > 0)
+        QCoreApplication::exit(0);
+}
+
+bool Chain::mayHide(Screen& screen)
+{
+    const bool another = std::any_of(m_links.begin(), m_links.end(), [&](const Link& link) {
+        return link.screen && link.screen.get() != &screen && link.screen->isVisible();
+    });
+    return another || endAfterQuestion(screen, screen.windowTitle());
+}
+
+bool Chain::mayEnd()
+{
+    Screen* const front = inFront();
+    if (!front) {
+        end();
+        return true;
+    }
+    QWidget* const dialog = QApplication::activeModalWidget();
+    return endAfterQuestion(dialog ? *dialog : *front, front->windowTitle());
+}
+
+// Where the user works: the active screen, or the furthest of those to be seen.
+Screen* Chain::inFront() const
+{
+    Screen* front = nullptr;
+    for (const Link& link : m_links)
+        if (link.screen && link.screen->isVisible() && (!front || !front->isActiveWindow()))
+            front = link.screen.get();
+    return front;
+}
+
+bool Chain::endAfterQuestion(QWidget& parent, const QString& title)
+{
+    if (m_asking)
+        return false;
+    const bool anything = std::any_of(m_links.begin(), m_links.end(),
+                                      [](const Link& link) { return link.screen && link.screen->holdsFigures(); });
+    if (anything) {
+        const QScopedValueRollback asking(m_asking, true);
+        if (!m_dialogs.askYesNo(parent, title, "End the program? The figures on the screens will be lost.", false))
+            return false;
+    }
+    end();
+    return true;
+}
+
+void Chain::bringForward(Screen& screen, const Screen* before)
+{
+    const bool first = !screen.testAttribute(Qt::WA_WState_Created);
+    if (first) {
+        const QRect room = (before ? before : &screen)->screen()->availableGeometry();
+        const QSize size = Preferred.boundedTo(room.size() - Frame);
+        screen.resize(size);
+        const QPoint centred =
+            room.center() - QPoint((size.width() + Frame.width()) / 2, (size.height() + Frame.height()) / 2);
+        const QPoint place = before ? before->pos() : centred;
+        const QSize slack = room.size() - Frame - size;
+        screen.move(std::clamp(place.x(), room.left(), room.left() + std::max(0, slack.width())),
+                    std::clamp(place.y(), room.top(), room.top() + std::max(0, slack.height())));
+    }
+    if (screen.isMinimized())
+        screen.showNormal();
+    else
+        screen.show();
+    screen.raise();
+    screen.activateWindow();
+    if (first && screen.firstBox())
+        screen.firstBox()->setFocus();
+    m_clock.start();
+    tick();
+    if (first)
+        screen.opened();
+}
+
+void Chain::tick()
+{
+    // The date as text changes once a day; it is made once a day.
+    if (const QDate today = QDate::currentDate(); today != m_day) {
+        m_day = today;
+        m_date = QLocale::system().toString(today, QLocale::ShortFormat);
+    }
+    for (const Link& link : m_links)
+        if (link.screen && link.screen->isVisible() && !link.screen->isMinimized())
+            link.screen->Timer1_Timer(m_date);
+}
+
+}  // namespace flow

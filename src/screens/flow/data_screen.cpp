@@ -1,0 +1,126 @@
+#include "screens/flow/data_screen.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QLabel>
+
+#include "screens/flow/chain.h"
+
+namespace flow {
+
+bool DataScreen::mayLeave()
+{
+    if (Printed == 1)
+        return true;
+    const bool stay = chain.dialogs().askYesNo(*this, "Forgot to take a print of the Form !",
+                                               "Do you want to take a print of the form ?", true);
+    return !stay;
+}
+
+StepScreen::StepScreen(Chain& owner, const QString& name, const QString& caption) : DataScreen(owner, name, caption)
+{
+    cmdNext.setEnabled(false);
+    cmdPrint.setEnabled(false);
+    onClick(cmdNext, &StepScreen::cmdNext_Click);
+}
+
+void StepScreen::computed(controls::Button& compute)
+{
+    cmdNext.setEnabled(true);
+    cmdPrint.setEnabled(true);
+    cmdPrint.setFocus();
+    compute.setEnabled(false);
+}
+
+void StepScreen::cmdNext_Click()
+{
+    if (mayLeave())
+        chain.showNextAfter(*this);
+}
+
+ImportScreen::ImportScreen(Chain& owner, const QString& name, const QString& caption, const QString& tableName,
+                           const QString& sourceCaption, const QString& gridName)
+    : StepScreen(owner, name, caption),
+      grid(gridName),
+      m_tableName(tableName),
+      m_sourceCaption(sourceCaption),
+      m_message(new QLabel(this))
+{
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setWordWrap(true);
+    grid.setAccessibleName(sourceCaption);
+    grid.setTable(store::Table(tableName.toStdString(), {}));  // an import before any file names what is missing
+}
+
+void ImportScreen::addGrid()
+{
+    auto* place = new QWidget;
+    auto* down = new QVBoxLayout(place);
+    down->setContentsMargins(0, 0, 0, 0);
+    down->setSpacing(2);
+    auto* line = new QHBoxLayout;
+    auto* title = new controls::Caption(m_sourceCaption);
+    QFont bold = title->font();
+    bold.setBold(true);
+    title->setFont(bold);
+    line->addWidget(title);
+    line->addWidget(m_message, 1);
+    down->addLayout(line);
+    down->addWidget(&grid, 1);
+    down->addStretch();  // the table stands right under its title, however much room there is
+    QSizePolicy rest = place->sizePolicy();
+    rest.setVerticalStretch(1);  // what the rows leave is the table's
+    place->setSizePolicy(rest);
+    layout.addBelow(place);
+}
+
+void ImportScreen::openSource(const QString& path)
+{
+    if (path.trimmed().isEmpty()) {  // the box starts with blanks
+        m_message->setText("No data file chosen");
+        grid.hide();
+        return;
+    }
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    store::Reading reading = chain.dataFile().read(QFile::encodeName(path).toStdString(), m_tableName.toStdString());
+    QGuiApplication::restoreOverrideCursor();
+    m_message->setText(QString::fromStdString(reading.reason.empty() ? reading.notice : reading.reason));
+    if (reading.reason.empty()) {
+        grid.setTable(std::move(reading.table));
+        return;
+    }
+    grid.hide();
+    m_reason = m_message->text();
+}
+
+void ImportScreen::opened()
+{
+    if (!m_reason.isEmpty())
+        chain.dialogs().showCritical(*this, m_sourceCaption, m_reason);
+}
+
+void ImportScreen::imported(controls::Button& compute)
+{
+    m_computeOpened = true;
+    compute.setEnabled(true);
+    compute.setFocus();
+}
+
+void ImportScreen::enableByTyping(controls::Button& compute, std::initializer_list<controls::TextBox*> boxes)
+{
+    for (controls::TextBox* box : boxes)
+        connect(box, &QLineEdit::textEdited, this, [this, &compute] {
+            if (!m_computeOpened)
+                compute.setEnabled(true);
+            m_computeOpened = true;
+        });
+}
+
+void ImportScreen::enableByTyping(controls::Button& compute, const controls::ControlArray<controls::TextBox>& boxes)
+{
+    for (int i = 0; i < boxes.size(); ++i)
+        if (boxes.has(i))
+            enableByTyping(compute, {&boxes(i)});
+}
+
+}  // namespace flow

@@ -1,0 +1,77 @@
+#pragma once
+#include <cstdint>
+
+#include "screens/controls/data_grid.h"
+#include "screens/flow/screen.h"
+
+class QLabel;
+
+namespace flow {
+
+/// A screen with figures on it: it knows whether it has been printed, and reminds the user of it.
+class DataScreen : public Screen {
+public:
+    std::int16_t Printed = 0;  ///< 1 once Print has run to its end; never cleared
+
+protected:
+    using Screen::Screen;
+
+    void printed() override { Printed = 1; }
+
+    /// False if the user wants to stay and print first. Asks only while the screen has not been printed.
+    bool mayLeave();
+};
+
+/// A step of the chain: fill, Compute, Print, Next.
+class StepScreen : public DataScreen {
+public:
+    controls::Button cmdNext{"cmdNext", "&Next"};
+
+protected:
+    StepScreen(Chain& chain, const QString& name, const QString& caption);
+
+    /// A Compute that ended well: Next and Print are open, Compute is done for this Sr SE, and the user goes on to
+    /// print.
+    void computed(controls::Button& compute);
+
+    void cmdNext_Click();
+};
+
+/// A step whose boxes can be filled from the Sr SE's data file.
+class ImportScreen : public StepScreen {
+protected:
+    /// `tableName` in the data file, shown under `sourceCaption` in the grid `gridName`.
+    ImportScreen(Chain& chain, const QString& name, const QString& caption, const QString& tableName,
+                 const QString& sourceCaption, const QString& gridName);
+
+    /// Puts the grid with its heading under the rows.
+    void addGrid();
+
+    /// Reads the table of the data file at `path` into the grid. What goes wrong is told once, when the screen is there
+    /// to be seen, and stays to be read in the grid's place: the boxes can be typed all the same.
+    void openSource(const QString& path);
+
+    /// The first keystroke in one of the boxes opens Compute, unless an import has done so already: typing never
+    /// opens it a second time, when the figures have been computed.
+    void enableByTyping(controls::Button& compute, std::initializer_list<controls::TextBox*> boxes);
+    void enableByTyping(controls::Button& compute, const controls::ControlArray<controls::TextBox>& boxes);
+
+    /// An import that ended well: Compute is next.
+    void imported(controls::Button& compute);
+
+    /// A cell of the grid as text.
+    QString cell(int row, int column) const { return grid.TextMatrix(row, column); }
+
+    void opened() override;
+
+    controls::DataGrid grid;
+
+private:
+    QString m_tableName;
+    QString m_sourceCaption;
+    QLabel* m_message;
+    QString m_reason;
+    bool m_computeOpened = false;
+};
+
+}  // namespace flow

@@ -1,0 +1,61 @@
+#include "screens/flow/dialogs.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QSettings>
+
+namespace flow {
+
+namespace {
+
+QMessageBox::StandardButton show(QWidget& parent, QMessageBox::Icon icon, const QString& title, const QString& text,
+                                 QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset)
+{
+    QMessageBox box(icon, title, text, buttons, &parent);
+    box.setTextFormat(Qt::PlainText);  // a file's name may look like markup
+    box.setDefaultButton(preset);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+}  // namespace
+
+DesktopDialogs::DesktopDialogs()
+{
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");  // no folder: nothing can lie in it
+}
+
+bool DesktopDialogs::askYesNo(QWidget& parent, const QString& title, const QString& prompt, bool defaultYes)
+{
+    return show(parent, QMessageBox::Question, title, prompt, QMessageBox::Yes | QMessageBox::No,
+                defaultYes ? QMessageBox::Yes : QMessageBox::No) == QMessageBox::Yes;
+}
+
+int DesktopDialogs::showCritical(QWidget& parent, const QString& title, const QString& text)
+{
+    show(parent, QMessageBox::Critical, title, text, QMessageBox::Ok, QMessageBox::Ok);
+    return Ok;
+}
+
+int DesktopDialogs::showMessage(QWidget& parent, const QString& title, const QString& text)
+{
+    show(parent, QMessageBox::Information, title, text, QMessageBox::Ok, QMessageBox::Ok);
+    return Ok;
+}
+
+QString DesktopDialogs::openFile(QWidget& parent, const QString& title, const QString& filter, const QString& folder)
+{
+    // The toolkit takes the pattern from the brackets of the name, "Access Files(*.mdb)".
+    return QFileDialog::getOpenFileName(&parent, title, folder, filter.section('|', 0, 0));
+}
+
+std::optional<PrintChoice> DesktopDialogs::print(QWidget& parent, QPrinter& printer)
+{
+    QPrintDialog dialog(&printer, &parent);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return PrintChoice{printer.fromPage(), printer.toPage(), printer.copyCount()};
+}
+
+}  // namespace flow

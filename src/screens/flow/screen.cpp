@@ -1,0 +1,78 @@
+#include "screens/flow/screen.h"
+
+#include <QCloseEvent>
+#include <QPrinter>
+#include <exception>
+
+#include "figures/conversions.h"
+#include "screens/controls/entry.h"
+#include "screens/flow/chain.h"
+#include "screens/flow/printing.h"
+
+namespace flow {
+
+const char* const LockTip =
+    "Please make sure that all data is corrctly entered. The data would get lockked after clicking this button.";
+
+namespace {
+constexpr int DateCharacters = 11;
+}
+
+Screen::Screen(Chain& owner, const QString& name, const QString& caption, std::initializer_list<int> railwayBoxes)
+    : txtRly("txtRly", railwayBoxes), chain(owner), layout(*this, caption)
+{
+    setObjectName(name);
+    setWindowTitle(caption);
+    txtRly(2).setLocked(true);
+    connect(&cmdPrint, &QAbstractButton::clicked, this, &Screen::cmdPrint_Click);
+}
+
+void Screen::Timer1_Timer(const QString& date)
+{
+    if (txtRly(2).text() != date)
+        txtRly(2).setText(date);
+}
+
+void Screen::cmdPrint_Click()
+{
+    try {
+        QPrinter printer;
+        const auto choice = chain.dialogs().print(*this, printer);
+        if (!choice)
+            return;
+        // The page range is read as the dialog gives it, and not used: the form is one sheet.
+        figures::toInt16(choice->firstPage, "the first page");
+        figures::toInt16(choice->lastPage, "the last page");
+        const int copies = figures::toInt16(choice->copies, "the number of copies");
+        printForm(*this, layout.parts(), printer, copies);
+        printed();
+    } catch (const std::exception&) {
+        // A print-out that failed shows itself by not lying in the tray; the figures stand, and Print can be repeated.
+    }
+}
+
+void Screen::report(const figures::RunTimeError& error)
+{
+    chain.dialogs().showCritical(*this, windowTitle(), error.what());
+    if (QWidget* box = error.row() == figures::RunTimeError::NoRow ? nullptr : boxOf(error))
+        goTo(*box);
+}
+
+void Screen::goTo(QWidget& box)
+{
+    box.setFocus(Qt::OtherFocusReason);
+    controls::bringIntoView(box);
+}
+
+void Screen::addDate(QBoxLayout& line)
+{
+    line.addStretch();
+    controls::addField(line, "     Date (mm-dd-yyyy)", txtRly(2), DateCharacters).setObjectName("LblRly");
+}
+
+void Screen::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(chain.mayHide(*this));
+}
+
+}  // namespace flow

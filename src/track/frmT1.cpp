@@ -1,0 +1,282 @@
+#include "track/frmT1.h"
+
+#include <QGroupBox>
+
+#include "figures/conversions.h"
+#include "figures/numeric_text.h"
+#include "figures/picture.h"
+#include "screens/flow/chain.h"
+#include "screens/flow/frmStart.h"
+#include "track/track_length.h"
+
+using controls::Caption;
+using controls::RowSheet;
+using figures::picture;
+
+namespace {
+
+const QString MachinePacked = "Machine Packed";
+const QString ManuallyPacked = "Manually Packed";
+
+}  // namespace
+
+frmT1::frmT1(flow::Chain& owner, const frmStart& start)
+    : ImportScreen(owner, "frmT1", "Entering Track Data", "TR", "Tr Data", "TrGrid"),
+      optBG("optBG", "BG"),
+      optMG("optMG", "MG"),
+      optNG("optNG", "NG"),
+      chkSub("chkSub", "Subarban     Section"),
+      m_start(start)
+{
+    layOut();
+    cmdCopy.setEnabled(false);
+    cmdCompute.setEnabled(false);
+
+    openSource(start.txtT1(1).text());
+    txtT1(1).setText(start.txtT1(0).text());
+    txtT1(4).setText(start.txtT1(4).text());
+    DataFilePath = start.txtT1(1).text();
+
+    onChange(txtNSeg, &frmT1::txtNSeg_Change);
+    onClick(optBG, &frmT1::optBG_Click);
+    onClick(optMG, &frmT1::optMG_Click);
+    onClick(optNG, &frmT1::optNG_Click);
+    onClick(chkSub, &frmT1::chkSub_Click);
+    onClick(cmdCopy, &frmT1::cmdCopy_Click);
+    onClick(cmdCompute, &frmT1::cmdCompute_Click);
+}
+
+void frmT1::layOut()
+{
+    QHBoxLayout& who = layout.headerLine();
+    controls::addField(who, "Section-", txtT1(0), 30);
+    controls::addField(who, "Sr S.E. with index-", txtT1(1), 30);
+    controls::addBox(who, txtT1(4), 4, "Sr S.E. index");
+    addDate(who);
+
+    QHBoxLayout& how = layout.headerLine();
+    controls::addField(how, "Jurisdiction -", txtT1(2), 30);
+    auto* fraG = new QGroupBox("Gauge");
+    fraG->setObjectName("fraG");
+    auto* gauges = new QHBoxLayout(fraG);
+    gauges->setContentsMargins(8, 2, 8, 2);
+    for (QRadioButton* gauge : std::initializer_list<QRadioButton*>{&optBG, &optMG, &optNG})
+        gauges->addWidget(gauge);
+    how.addWidget(fraG);
+    controls::addField(how, "Gauge", txtT1(3), 5);
+    auto* fraSub = new QGroupBox("Subarban Section");
+    fraSub->setObjectName("fraSub");
+    auto* suburban = new QHBoxLayout(fraSub);
+    suburban->setContentsMargins(8, 2, 8, 2);
+    suburban->addWidget(&chkSub);
+    how.addWidget(fraSub);
+    how.addStretch();
+    controls::addField(how, "No of Segments ?", txtNSeg, 5);
+
+    optMG.setToolTip("\"For MG sections  Maintenace has to be Manual\"");
+    optNG.setToolTip("\"For NG sections the Maintenace has to be Manual\"");
+    chkSub.setToolTip("\"For Subarban Sections the Maintenance has to be Mechanical\"");
+    fraSub->setToolTip(chkSub.toolTip());
+    txtNSeg.setToolTip("Maximum number of segments is 16");
+    cmdNext.setToolTip(flow::LockTip);
+    cmdPrint.setToolTip(flow::LockTip);
+    txtNSeg.setNumeric();
+    for (const int taken : {1, 3, 4})
+        txtT1(taken).setLocked(true);
+    txtNSeg.setLocked(true);
+
+    layout.addRows(segmentRows());
+    addGrid();
+    layout.buttons({&cmdCopy, &cmdCompute, &cmdPrint, &cmdNext});
+}
+
+RowSheet* frmT1::segmentRows()
+{
+    for (int i = 0; i < MostSegments; ++i) {
+        txtSS(i).setText(QString::number(i + 1));
+        cboLn(i).addItems({"UP", "DN", "SL"});
+        cboLn(i).setText("Line");
+        cboMtc(i).addItems({MachinePacked, ManuallyPacked});
+        cboMtc(i).setText("Method of Maintenance");
+        for (auto* figure :
+             {&txtSS, &txtKmf, &txtKmt, &txtKm1, &txtGmt, &txtLWR, &txtConc1, &txtConc2, &txtTout, &txtTkm, &txtEqtkm})
+            (*figure)(i).setNumeric();
+        txtTkm(i).setLocked(true);
+        txtEqtkm(i).setLocked(true);
+        showRow(i, false);
+    }
+    auto* rows = new RowSheet("segment", MostSegments);
+    rows->heading("Segment     No");
+    rows->column(txtSS, 6);
+    rows->heading(" Line  dn/up");
+    rows->column(cboLn, 7);
+    rows->heading("Km From");
+    rows->column(txtKmf, 8);
+    rows->heading("Km To");
+    rows->column(txtKmt, 8);
+    rows->heading("  Extra      Kms      if  any");
+    rows->column(txtKm1, 7);
+    rows->heading("GMT");
+    rows->column(txtGmt, 7);
+    rows->heading("LWR (kms)");
+    rows->column(txtLWR, 7);
+    rows->heading(" Method   of    Maintenance");
+    rows->column(cboMtc, 20);
+    rows->heading("Length and no  of Eq.t/outs on conc Sleepers", 2);
+    rows->column(txtConc1, 8, "length");
+    rows->column(txtConc2, 7, "turnouts");
+    rows->heading("Total no of Eq.    turnouts");
+    rows->column(txtTout, 8);
+    rows->heading("Total Km");
+    rows->column(txtTkm, 8);
+    rows->heading("Eq. Length");
+    rows->column(txtEqtkm, 8);
+    rows->finish();
+    return rows;
+}
+
+void frmT1::showRow(int i, bool shown)
+{
+    for (QWidget* box : std::initializer_list<QWidget*>{&txtSS(i), &cboLn(i), &txtKmf(i), &txtKmt(i), &txtKm1(i),
+                                                        &txtLWR(i), &txtGmt(i), &cboMtc(i), &txtConc1(i), &txtConc2(i),
+                                                        &txtTout(i), &txtEqtkm(i), &txtTkm(i)})
+        box->setVisible(shown);
+}
+
+void frmT1::forceMethod(int i, const QString& method)
+{
+    cboMtc(i).setText(method);
+    cboMtc(i).setLocked(true);
+}
+
+void frmT1::txtNSeg_Change()
+{
+    SrSeIndexT1 = valueOf(txtT1(4));
+    SectionText = txtT1(0).text();
+    SrSeNameT1 = txtT1(1).text();
+    SegCount = countOf(txtNSeg, MostSegments);
+    if (chkSub.isChecked())
+        forceMethod(0, MachinePacked);
+    for (int i = 0; i < SegCount; ++i) {
+        showRow(i, true);
+        if (chkSub.isChecked())
+            forceMethod(i, MachinePacked);
+        else
+            cboMtc(i).setLocked(false);
+    }
+    for (int i = SegCount; i < MostSegments; ++i)
+        showRow(i, false);
+    cmdCompute.setEnabled(true);
+    cmdCopy.setEnabled(true);
+}
+
+void frmT1::optBG_Click()
+{
+    txtT1(3).setText("BG");
+    cmdCopy.setEnabled(true);
+}
+
+void frmT1::optMG_Click()
+{
+    packByHand("MG");
+}
+
+void frmT1::optNG_Click()
+{
+    packByHand("NG");
+}
+
+// Metre and narrow gauge are packed by hand.
+void frmT1::packByHand(const QString& gauge)
+{
+    txtT1(3).setText(gauge);
+    cmdCopy.setEnabled(true);
+    chkSub.setChecked(false);
+    for (int i = 0; i < SegCount; ++i)
+        forceMethod(i, ManuallyPacked);
+}
+
+// A suburban section is broad gauge and packed by machine.
+void frmT1::chkSub_Click()
+{
+    for (int i = 0; i < SegCount; ++i)
+        forceMethod(i, MachinePacked);
+    optBG.setChecked(true);  // clears the other two
+    optBG_Click();
+}
+
+void frmT1::cmdCopy_Click()
+{
+    txtNSeg.setText(cell(1, 2));
+    SegCount = countOf(txtNSeg, MostSegments);
+    for (int i = 0; i < SegCount; ++i) {
+        txtSS(i).setText(cell(i + 1, 3));
+        cboLn(i).setText(cell(i + 1, 4));
+        txtKmf(i).setText(cell(i + 1, 5));
+        txtKmt(i).setText(cell(i + 1, 6));
+        txtKm1(i).setText(cell(i + 1, 7));
+        txtConc1(i).setText(cell(i + 1, 8));
+        txtConc2(i).setText(cell(i + 1, 9));
+        txtTout(i).setText(cell(i + 1, 10));
+        txtGmt(i).setText(cell(i + 1, 11));
+        txtLWR(i).setText(cell(i + 1, 12));
+        cboMtc(i).setText(cell(i + 1, 13));
+    }
+    cmdCompute.setFocus();
+}
+
+void frmT1::cmdCompute_Click()
+{
+    SrSeIndexAtCompute = valueOf(m_start.txtT1(4));
+    ComputeError = 0;
+    int firstBad = -1;
+    for (int i = 0; i < SegCount; ++i)
+        if (!computeRow(i) && firstBad < 0)
+            firstBad = i;
+    if (ComputeError != 1) {
+        txtNSeg.setLocked(true);
+        computed(cmdCompute);
+    } else if (firstBad >= 0) {
+        goTo(txtKmf(firstBad));
+    }
+}
+
+// Results are shown row by row: the rows that pass are computed, also beside one that has to be revised.
+bool frmT1::computeRow(int i)
+{
+    const auto at = static_cast<std::size_t>(i);
+    SegNo[at] =
+        figures::strictSingle(txtSS(i).text().toStdString(), "the number of segment " + std::to_string(i + 1), i);
+    SegLine[at] = cboLn(i).text();
+    KmFrom[at] = valueOf(txtKmf(i));
+    KmTo[at] = valueOf(txtKmt(i));
+    const bool wrongWayRound = KmTo[at] < KmFrom[at];
+    txtKmf(i).setRed(wrongWayRound);
+    txtKmt(i).setRed(wrongWayRound);
+    if (wrongWayRound) {
+        goTo(txtKmf(i));
+        ComputeError = figures::toInt16(chain.dialogs().showCritical(*this, "Revise Values of 'Km from' and 'Km to'",
+                                                                     "'Kilometer to' can not be less than 'Km from'"),
+                                        "the button");
+        return false;
+    }
+    KmExtra[at] = valueOf(txtKm1(i));
+    LwrKm[at] = figures::toSingle(valueOf(txtLWR(i)), "the welded rail of segment " + std::to_string(i + 1), i);
+    Turnouts[at] = valueOf(txtTout(i));
+    const track::SegmentLength length = track::segmentLength(
+        {.kmFrom = KmFrom[at], .kmTo = KmTo[at], .kmExtra = KmExtra[at], .turnouts = Turnouts[at]}, i);
+    TotalKm[at] = length.totalKm;
+    controls::setText(txtTkm(i), picture(TotalKm[at], "####.##"));
+    EqLength[at] = length.eqLengthKm;
+    controls::setText(txtEqtkm(i), picture(EqLength[at], "####.##"));
+    // Not cleared at the start of a Compute: rows that passed before a failed one count again.
+    LwrTotal = track::addWeldedRail(LwrTotal, LwrKm[at], i);
+    return true;
+}
+
+QWidget* frmT1::boxOf(const figures::RunTimeError& error)
+{
+    if (error.kind() == figures::ErrorKind::FloatingPoint)
+        return &txtLWR(error.row());  // only the total of welded rail ends so
+    return &txtSS(error.row());
+}

@@ -1,0 +1,68 @@
+#pragma once
+#include <array>
+
+#include "screens/flow/data_screen.h"
+#include "track/augmentation.h"
+#include "track/frmT1.h"
+
+class frmStart;
+
+/// The ground under each segment of the main line: bad formation, curves and rainfall, and the factor by which they
+/// augment the segment's 'T' norm.
+class frmT2 : public flow::ImportScreen {
+public:
+    /// Elements 0 to 15 are the segments; element 16 is never shown.
+    static constexpr int Elements = frmT1::MostSegments + 1;
+
+    frmT2(flow::Chain& chain, const frmStart& start, const frmT1& t1);
+
+    /// 1 Sr SE, 4 index.
+    controls::ControlArray<controls::TextBox> txtT1{"txtT1", {1, 4}};
+
+    controls::ControlArray<controls::TextBox> txtSS{"txtSS", Elements};
+    controls::ControlArray<controls::TextBox> txtEqtkm{"txtEqtkm", Elements};
+    controls::ControlArray<controls::TextBox> txtSoil1{"txtSoil1", Elements};
+    controls::ControlArray<controls::TextBox> txtTout1{"txtTout1", Elements};
+    controls::ControlArray<controls::TextBox> txtSoil2{"txtSoil2", Elements};
+    controls::ControlArray<controls::TextBox> txtTout2{"txtTout2", Elements};
+    controls::ControlArray<controls::TextBox> txtCur1{"txtCur1", Elements};
+    controls::ControlArray<controls::TextBox> txtcur2{"txtcur2", Elements};
+    controls::ControlArray<controls::TextBox> txtCur3{"txtCur3", Elements};
+    controls::ControlArray<controls::TextBox> txtRain{"txtRain", Elements};
+    controls::ControlArray<controls::TextBox> txtA{"txtA", Elements};
+    controls::ControlArray<controls::TextBox> txtB{"txtB", Elements};
+    controls::ControlArray<controls::TextBox> txtC{"txtC", Elements};
+    /// The factor, six decimals. Its text is read by frmT4.
+    controls::ControlArray<controls::TextBox> txtABC{"txtABC", Elements};
+
+    controls::Button cmdCopy{"cmdCopy", "&Data from a File"};
+    controls::Button cmdCompute{"cmdCompute", "&Compute"};
+
+    // As computed, segment by segment.
+    std::array<double, Elements> Eqtkm{};  ///< [km]
+    std::array<double, Elements> Soil1{};  ///< shrinkable [km]
+    std::array<float, Elements> Tout1{};   ///< turnouts on it
+    std::array<double, Elements> Soil2{};  ///< unstable [km]
+    std::array<float, Elements> Tout2{};   ///< turnouts on it
+    std::array<double, Elements> Cur1{};   ///< column "1-2 Deg" [km]
+    std::array<double, Elements> Cur2{};   ///< column ">2 Deg"
+    std::array<float, Elements> Cur3{};    ///< column "Eq Deg" [km]
+    std::array<float, Elements> Rain{};    ///< [cm a year]
+    std::array<double, Elements> FacA{};
+    std::array<double, Elements> FacB{};
+    std::array<double, Elements> FacC{};
+
+    QWidget* firstBox() override { return &txtSoil1(0); }
+
+private:
+    void cmdCopy_Click();
+    void cmdCompute_Click();
+
+    QWidget* boxOf(const figures::RunTimeError& error) override;
+
+    void layOut();
+    controls::RowSheet* segmentRows();
+    track::SegmentGround readRow(int i);
+
+    const frmT1& m_t1;
+};

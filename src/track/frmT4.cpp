@@ -1,0 +1,198 @@
+#include "track/frmT4.h"
+
+#include <QGroupBox>
+
+#include "figures/conversions.h"
+#include "figures/picture.h"
+#include "track/frmT2.h"
+
+using controls::Caption;
+using controls::RowSheet;
+using controls::setText;
+using figures::numbered;
+using figures::picture;
+
+frmT4::frmT4(flow::Chain& owner, const frmT1& t1, const frmT2& t2)
+    : StepScreen(owner, "frmT4", "Calculations  of Mandays required for ' T ' and ' R ' activities of main line"),
+      m_t1(t1),
+      m_t2(t2)
+{
+    layOut();
+
+    for (int i = 0; i < t1.SegCount; ++i)
+        copyRow(i);
+    for (int i = 0; i < txtT1.size(); ++i)
+        txtT1(i).setText(t1.txtT1(i).text());
+    txtNSeg.setText(t1.txtNSeg.text());
+    chkSub.setCheckState(t1.chkSub.checkState());
+
+    onClick(cmdCompute, &frmT4::cmdCompute_Click);
+}
+
+void frmT4::copyRow(int i)
+{
+    txtSS(i).setText(m_t1.txtSS(i).text());
+    txtEqtkm(i).setText(m_t1.txtEqtkm(i).text());
+    txtGmt(i).setText(m_t1.txtGmt(i).text());
+    Method[static_cast<std::size_t>(i)] = m_t1.cboMtc(i).text();
+    txtTmc(i).setText(m_t1.cboMtc(i).text());
+    txtConc1(i).setText(m_t1.txtConc1(i).text());
+    txtConc2(i).setText(m_t1.txtConc2(i).text());
+    txtTout(i).setText(m_t1.txtTout(i).text());
+    txtABC(i).setText(m_t2.txtABC(i).text());
+}
+
+void frmT4::layOut()
+{
+    QHBoxLayout& who = layout.headerLine();
+    controls::addField(who, "Section-", txtT1(0), 30);
+    controls::addField(who, "Sr S.E. with index-", txtT1(1), 30);
+    controls::addBox(who, txtT1(4), 4, "Sr S.E. index");
+    addDate(who);
+
+    QHBoxLayout& how = layout.headerLine();
+    controls::addField(how, "Jurisdiction -", txtT1(2), 30);
+    controls::addField(how, "Gauge", txtT1(3), 5);
+    auto* fraSub = new QGroupBox("Subarban Section");
+    fraSub->setObjectName("fraSub");
+    auto* suburban = new QHBoxLayout(fraSub);
+    suburban->setContentsMargins(8, 2, 8, 2);
+    suburban->addWidget(&chkSub);
+    how.addWidget(fraSub);
+    how.addStretch();
+    controls::addField(how, "No of Segments ?", txtNSeg, 5);
+
+    txtNSeg.setToolTip("Max number of subsections is 12");
+    txtNSeg.setNumeric();
+    txtNSeg.setLocked(true);
+    chkSub.setEnabled(false);
+    for (int i = 0; i < txtT1.size(); ++i)
+        txtT1(i).setLocked(true);
+
+    layout.addRows(segmentRows());
+    QHBoxLayout& sum = layout.lineBelow();
+    auto* legend = new Caption("A- Formation     B- Alignment    C- Rainfall");
+    legend->setLines({{legend->text()}});
+    sum.addStretch(6);  // under the factor's column
+    sum.addWidget(legend);
+    sum.addStretch(1);
+    controls::addField(sum, "Total Mandays for      ('T'+ 'R') Activities        for the Sr.S.E. ", txtMan3(Total), 12);
+    layout.buttons({&cmdCompute, &cmdPrint, &cmdNext});
+    for (controls::Button* button : {&cmdCompute, &cmdPrint, &cmdNext})
+        button->setToolTip(flow::LockTip);
+}
+
+RowSheet* frmT4::segmentRows()
+{
+    for (const auto* column :
+         {&txtSS, &txtEqtkm, &txtGmt, &txtTmc, &txtConc1, &txtConc2, &txtTout, &txtABC, &txtMan1, &txtMan2, &txtMan3}) {
+        for (int i = 0; i < column->size(); ++i) {
+            (*column)(i).setLocked(true);
+            if (column != &txtTmc)
+                (*column)(i).setNumeric();
+        }
+        for (int i = m_t1.SegCount; i < Segments; ++i)
+            (*column)(i).setVisible(false);
+    }
+    for (int i = 0; i < Segments; ++i)
+        txtSS(i).setToolTip("Max number of subsections is 12");
+
+    auto* rows = new RowSheet("segment", Segments);
+    rows->heading("Seg ment No");
+    rows->column(txtSS, 6);
+    rows->heading("Equivalent Length");
+    rows->column(txtEqtkm, 10);
+    rows->heading("GMT");
+    rows->column(txtGmt, 8);
+    rows->heading("      Method of               Maintenance");
+    rows->column(txtTmc, 18);
+    rows->heading("Length and no  of Eq.t/outs on conc Sleepers", 2);
+    rows->column(txtConc1, 8, "length");
+    rows->column(txtConc2, 8, "turnouts");
+    rows->heading("Total no of Eq.    turnouts");
+    rows->column(txtTout, 8);
+    rows->heading("Augmention     Factor       (1+A+B+C) ");
+    rows->column(txtABC, 10);
+    rows->heading("  Mandays required for      ' T '          ' R '       Activities    Activities", 2)
+        .setLines({{"Mandays required for"}, {"' T '", "' R '"}, {"Activities", "Activities"}});
+    rows->column(txtMan1, 11, "'T'");
+    rows->column(txtMan2, 11, "'R'");
+    rows->heading("  Mandays        for         ('T'+ 'R')  ");
+    rows->column(txtMan3, 12);
+    rows->finish();
+    return rows;
+}
+
+void frmT4::readRow(int i)
+{
+    const auto at = static_cast<std::size_t>(i);
+    Eqtkm[at] = valueOf(txtEqtkm(i));
+    Conc1[at] = valueOf(txtConc1(i));
+    Conc2[at] = valueOf(txtConc2(i));
+    ConcKm[at] = track::concreteKm(Conc1[at], Conc2[at], i);
+    Gmt[at] = valueOf(txtGmt(i));
+    Factor[at] = figures::toSingle(valueOf(txtABC(i)), numbered("the augmentation factor of segment", i), i);
+}
+
+track::MainLineSegment frmT4::segment(int i) const
+{
+    const auto at = static_cast<std::size_t>(i);
+    return {.eqLengthKm = Eqtkm[at], .gmt = Gmt[at], .factor = Factor[at], .concreteKm = ConcKm[at]};
+}
+
+void frmT4::keep(int i, const track::MainLineMandays& mandays)
+{
+    ManT[static_cast<std::size_t>(i)] = mandays.t;
+    ManR[static_cast<std::size_t>(i)] = mandays.r;
+}
+
+void frmT4::Manpower_BG()
+{
+    for (int i = 0; i < m_t1.SegCount; ++i) {
+        const bool isSuburban = m_t1.chkSub.checkState() == Qt::Checked;
+        const track::Method method = track::methodOf(Method[static_cast<std::size_t>(i)].toStdString());
+        keep(i, track::bgMandays(segment(i), isSuburban, method, i));
+    }
+}
+
+void frmT4::manpowerMg()
+{
+    for (int i = 0; i < m_t1.SegCount; ++i)
+        keep(i, track::mgMandays(segment(i), i));
+}
+
+void frmT4::manpowerNg()
+{
+    for (int i = 0; i < m_t1.SegCount; ++i) {
+        NgNorm[static_cast<std::size_t>(i)] = track::ngTPerKm(Gmt[static_cast<std::size_t>(i)], i);
+        keep(i, track::ngMandays(segment(i), i));
+    }
+}
+
+void frmT4::cmdCompute_Click()
+{
+    const auto count = static_cast<std::size_t>(m_t1.SegCount);
+    Gauge = m_t1.txtT1(3).text();
+    for (int i = 0; i < m_t1.SegCount; ++i)
+        readRow(i);
+
+    // Any other text is no gauge: no mandays.
+    if (Gauge == "BG")
+        Manpower_BG();
+    if (Gauge == "MG")
+        manpowerMg();
+    if (Gauge == "NG")
+        manpowerNg();
+    for (std::size_t at = 0; at < count; ++at)
+        ManTR[at] = track::trMandays({.t = ManT[at], .r = ManR[at]}, static_cast<int>(at));
+    TotMan = track::addTrMandays(TotMan, {ManTR.data(), count});
+
+    for (int i = 0; i < m_t1.SegCount; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        setText(txtMan1(i), picture(ManT[at], "####.##"));
+        setText(txtMan2(i), picture(ManR[at], "####.##"));
+        setText(txtMan3(i), picture(ManTR[at], "####.##"));
+    }
+    setText(txtMan3(Total), picture(TotMan, "######.##"));
+    computed(cmdCompute);
+}

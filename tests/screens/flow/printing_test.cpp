@@ -1,0 +1,187 @@
+#include "screens/flow/printing.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QPrinter>
+#include <QRegularExpression>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QtEndian>
+
+#include "support/screen_test.h"
+#include "track/frmT1.h"
+
+namespace {
+
+QByteArray unpacked(const QByteArray& stream)
+{
+    QByteArray sized(4, '\0');
+    qToBigEndian<quint32>(static_cast<quint32>(stream.size() * 8), sized.data());
+    return qUncompress(sized + stream);
+}
+
+/// What is drawn on the pages of a PDF file.
+QByteArray drawnOn(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return "no file";
+    const QByteArray bytes = file.readAll();
+    QByteArray drawn;
+    for (qsizetype at = bytes.indexOf("stream\n"); at >= 0; at = bytes.indexOf("stream\n", at + 7)) {
+        if (at >= 3 && bytes.mid(at - 3, 3) == "end")
+            continue;
+        const qsizetype begin = at + 7;
+        if (static_cast<unsigned char>(bytes[begin]) != 0x78)  // not packed: no page
+            continue;
+        const QByteArray content = unpacked(bytes.mid(begin, bytes.indexOf("endstream", begin) - begin));
+        if (content.contains(" Tf"))
+            drawn += content;
+    }
+    return drawn;
+}
+
+QSizeF paperOf(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    static const QRegularExpression box("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]");
+    const auto match = box.match(QString::fromLatin1(file.readAll()));
+    EXPECT_TRUE(match.hasMatch());
+    return {match.captured(1).toDouble(), match.captured(2).toDouble()};
+}
+
+/// frmT1 with all its rows, printed by its Print button.
+class PrintedForm : public ScreenTest {
+protected:
+    PrintedForm()
+    {
+        form.txtNSeg.setText("16");
+        for (int i = 0; i < 16; ++i)
+            form.txtKmf(i).setText(QString::number(100 + i));
+        form.cmdPrint.setEnabled(true);
+        sized(1340, 690);
+    }
+
+    void sized(int width, int height)
+    {
+        form.resize(width, height);
+        for (int i = 0; i < 3; ++i)
+            settle();
+    }
+
+    QString print(const QString& name)
+    {
+        const QString path = folder.filePath(name);
+        dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 1}, path.toStdString());
+        click("cmdPrint");
+        return path;
+    }
+
+    QScrollArea& area() { return *form.findChild<QScrollArea*>(); }
+
+    QTemporaryDir folder;
+    frmT1& form = on<frmT1>();
+};
+
+TEST_F(PrintedForm, IsTheWholeFormAlsoWhatASmallWindowHasScrolledAway)
+{
+    const QByteArray whole = drawnOn(print("whole.pdf"));
+    EXPECT_GT(whole.count("Tj") + whole.count("TJ"), 16 * 3) << "number, line and method of each segment at least";
+    sized(1340, 330);
+    ASSERT_GT(area().verticalScrollBar()->maximum(), 100);
+    const QByteArray small = drawnOn(print("small.pdf"));
+    EXPECT_EQ(small.count("Tj") + small.count("TJ"), whole.count("Tj") + whole.count("TJ"));
+}
+
+TEST_F(PrintedForm, HasItsHeadingsOnTopHoweverFarItIsScrolled)
+{
+    sized(1340, 330);
+    const QByteArray top = drawnOn(print("top.pdf"));
+    area().verticalScrollBar()->setValue(120);
+    settle();
+    const int pinned = dynamic_cast<controls::RowSheet&>(*area().widget()).pinnedAt();
+    EXPECT_EQ(pinned, 120);
+    EXPECT_TRUE(drawnOn(print("scrolled.pdf")) == top) << "another sheet";
+    EXPECT_EQ(dynamic_cast<controls::RowSheet&>(*area().widget()).pinnedAt(), pinned);
+}
+
+TEST_F(PrintedForm, IsBlackOnWhiteWhateverTheTheme)
+{
+    const QByteArray light = drawnOn(print("light.pdf"));
+    const QPalette theme = QApplication::palette();
+    QApplication::setPalette(QPalette(Qt::white, QColor(50, 50, 50), QColor(70, 70, 70), QColor(30, 30, 30),
+                                      QColor(40, 40, 40), Qt::white, QColor(20, 20, 20)));
+    settle();
+    const QPalette before = form.palette();
+    EXPECT_EQ(before.color(QPalette::Base), QColor(20, 20, 20));
+    const QByteArray dark = drawnOn(print("dark.pdf"));
+    EXPECT_EQ(form.palette(), before) << "the form on the screen keeps its theme";
+    QApplication::setPalette(theme);
+    EXPECT_TRUE(dark == light) << "another sheet";
+}
+
+TEST_F(PrintedForm, LiesAcrossThePaperWhenItIsWiderThanHigh)
+{
+    const QSizeF paper = paperOf(print("form.pdf"));
+    EXPECT_GT(paper.width(), paper.height());
+}
+
+TEST_F(PrintedForm, IsWrittenAsTextNotAsAPictureOfDots)
+{
+    const QString path = print("form.pdf");
+    EXPECT_LT(QFile(path).size(), 400'000);
+    EXPECT_GT(drawnOn(path).count("Tf"), 0);
+}
+
+class PrintedSheet : public testing::Test {
+protected:
+    PrintedSheet()
+    {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath("print.pdf");
+    QPrinter printer;
+    QWidget form;
+    QWidget part{&form};
+};
+
+TEST_F(PrintedSheet, IsRepeatedByTheProgramNotByThePrinterToo)
+{
+    form.resize(400, 200);
+    printer.setCopyCount(3);
+    flow::printForm(form, {&part}, printer, 3);
+    EXPECT_EQ(printer.copyCount(), 1) << "three copies are three pages, not nine";
+    EXPECT_EQ(pagesOf(path.toStdString()), 3);
+}
+
+TEST_F(PrintedSheet, StandsUprightWhenItIsHigherThanWide)
+{
+    part.resize(200, 400);
+    flow::printForm(form, {&part}, printer, 1);
+    const QSizeF paper = paperOf(path);
+    EXPECT_LT(paper.width(), paper.height());
+}
+
+TEST_F(PrintedSheet, OfNoCopiesDoesNotEvenStartThePrinter)
+{
+    flow::printForm(form, {&part}, printer, 0);
+    flow::printForm(form, {&part}, printer, -1);
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(PrintedSheet, ThatCannotBeWrittenIsAnError)
+{
+    for (const QString& lost : {folder.filePath("no-such-folder/print.pdf"), QString("/dev/full")}) {
+        QPrinter broken;
+        broken.setOutputFormat(QPrinter::PdfFormat);
+        broken.setOutputFileName(lost);
+        EXPECT_THROW(flow::printForm(form, {&part}, broken, 1), std::runtime_error) << lost.toStdString();
+    }
+}
+
+}  // namespace
