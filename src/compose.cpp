@@ -1,10 +1,13 @@
 #include "compose.h"
 
+#include "activities/misc/frmM1.h"
+#include "activities/misc/frmM2.h"
 #include "screens/flow/chain.h"
 #include "screens/flow/frmStart.h"
 #include "track/frmT1.h"
 #include "track/frmT2.h"
 #include "track/frmT4.h"
+#include "yards/frmY.h"
 
 void compose(flow::Chain& chain)
 {
@@ -12,4 +15,8 @@ void compose(flow::Chain& chain)
     chain.add<frmT1>([](flow::Chain& c) { return std::make_unique<frmT1>(c, c.get<frmStart>()); });
     chain.add<frmT2>([](flow::Chain& c) { return std::make_unique<frmT2>(c, c.get<frmStart>(), c.get<frmT1>()); });
     chain.add<frmT4>([](flow::Chain& c) { return std::make_unique<frmT4>(c, c.get<frmT1>(), c.get<frmT2>()); });
+    chain.add<frmY>([](flow::Chain& c) { return std::make_unique<frmY>(c, c.get<frmStart>(), c.get<frmT1>()); });
+    chain.add<frmM1>([](flow::Chain& c) { return std::make_unique<frmM1>(c, c.get<frmStart>(), c.get<frmT1>()); });
+    chain.add<frmM2>(
+        [](flow::Chain& c) { return std::make_unique<frmM2>(c, c.get<frmStart>(), c.get<frmT1>(), c.get<frmM1>()); });
 }

@@ -1,0 +1,215 @@
+#include "activities/misc/frmM1.h"
+
+#include <array>
+
+#include "activities/misc/misc_norms.h"
+#include "figures/numeric_text.h"
+#include "figures/picture.h"
+#include "screens/flow/frmStart.h"
+#include "track/frmT1.h"
+#include "track/header.h"
+
+using controls::addField;
+using controls::Caption;
+using controls::RowSheet;
+using controls::Section;
+using controls::setText;
+using controls::TextBox;
+using figures::picture;
+
+namespace {
+
+constexpr int CountWidth = 3;
+constexpr int FigureWidth = 7;
+
+using Column = controls::ControlArray<TextBox>;
+
+/// Numbers and shows the first `count` rows. Hidden rows keep their texts.
+void buildRows(int count, const Column& numbers, std::initializer_list<const Column*> columns)
+{
+    for (int i = 0; i < frmM1::MostRows; ++i) {
+        const bool inUse = i < count;
+        if (inUse)
+            numbers(i).setText(QString::number(i + 1));
+        numbers(i).setVisible(inUse);
+        for (const Column* column : columns)
+            (*column)(i).setVisible(inUse);
+    }
+}
+
+void prepareRows(const Column& numbers, std::initializer_list<const Column*> columns)
+{
+    for (int i = 0; i < frmM1::MostRows; ++i) {
+        numbers(i).setNumeric();
+        numbers(i).setLocked(true);
+        for (const Column* column : columns)
+            (*column)(i).setNumeric();
+    }
+    buildRows(0, numbers, columns);
+}
+
+/// The count that builds the rows below it, with its limit as a note, and at the right the activity's result.
+void addCount(Section& section, const QString& caption, TextBox& count, const QString& note,
+              const QString& resultCaption, TextBox& mandays)
+{
+    QHBoxLayout& line = section.line();
+    addField(line, caption, count, CountWidth);
+    count.setLimit(frmM1::MostRows);
+    line.addWidget(new Caption(note), 1);
+    section.addResult(line, resultCaption, mandays, FigureWidth);
+}
+
+Section* weatherPatrolling(const QString& heading, TextBox& length, TextBox& mandays)
+{
+    auto* section = new Section(heading);
+    QHBoxLayout& line = section->line();
+    addField(line, "Length of LWR track on single line basis(km) ?", length, FigureWidth);
+    length.setNumeric();
+    length.setLocked(true);
+    section->addResult(line, "Calculated Mandays - ", mandays, FigureWidth);
+    return section;
+}
+
+}  // namespace
+
+frmM1::frmM1(flow::Chain& owner, const frmStart& start, const frmT1& t1)
+    : ImportScreen(owner, "frmM1", "Data Entry for - For Miscelleneous Activities", "M1", "M1 Data", "GridM1"), m_t1(t1)
+{
+    layOut();
+    cmdCompute.setEnabled(false);
+
+    openSource(start.txtT1(1).text());
+    for (TextBox* length : {&txtHLWR, &txtCLWR})
+        setText(*length, figures::textOf(t1.LwrTotal));
+
+    onChange(txtNB, &frmM1::txtNB_Change);
+    onChange(txtVL, &frmM1::txtVL_Change);
+    onClick(cmdData, &frmM1::cmdData_Click);
+    onClick(cmdCompute, &frmM1::cmdCompute_Click);
+    enableByTyping(cmdCompute, {&txtNB, &txtVL});
+    for (const Column* entered : {&txtND, &txtBL, &txtNS, &txtNM, &txtDV, &txtDS})
+        enableByTyping(cmdCompute, *entered);
+}
+
+void frmM1::layOut()
+{
+    QHBoxLayout& who = layout.headerLine();
+    track::addHeader(who, m_t1, txtT1);
+    addDate(who);
+
+    layout.sections({{monsoonPatrolling()},
+                     {weatherPatrolling("M.2-Hot Weather Patrolling- Monsoon Patrollong :--", txtHLWR, txtMan2),
+                      weatherPatrolling("M.3-Cold Weather Patrolling-", txtCLWR, txtMan3), vulnerableLocations()}});
+
+    addGrid();
+    layout.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
+    for (controls::Button* final : {&cmdPrint, &cmdNext})
+        final->setToolTip(flow::LockTip);
+}
+
+Section* frmM1::monsoonPatrolling()
+{
+    auto* section = new Section("M.1- Monsoon Patrollong :--");
+    addCount(*section, "Total Number of Beat Lengths ?", txtNB, "Data for a maximum of 12 beat lengths can be entered",
+             "Calculated Mandays - ", txtman1);
+    prepareRows(txtTB, {&txtND, &txtBL, &txtNS, &txtNM});
+    auto* rows = new RowSheet("beat length", MostRows);
+    rows->heading("Beat Length Number- ");
+    rows->column(txtTB, 7);
+    rows->heading("     Number of days needing                  Patrolling in the beat length");
+    rows->column(txtND, 15);
+    rows->heading("No of Beats in the beat length");
+    rows->column(txtBL, 10);
+    rows->heading("No of Shifts inthe beat length");
+    rows->column(txtNS, 10);
+    rows->heading("Number of men in each Shift");
+    rows->column(txtNM, 10);
+    rows->finish();
+    section->add(rows);
+    return section;
+}
+
+Section* frmM1::vulnerableLocations()
+{
+    auto* section = new Section("M.4-Watching Vulnerable Locations-");
+    addCount(*section, "No. of vulnerable Locations-", txtVL,
+             "Data for a max of 12 vulnerable locations can be entered", "Mandays Calculated-", txtMan4);
+    prepareRows(txtNVL, {&txtDV, &txtDS});
+    auto* rows = new RowSheet("location", MostRows);
+    rows->heading("Vulnerable  Location Number- ");
+    rows->column(txtNVL, 10);
+    rows->heading("No of Days Watching required at the Location-");
+    rows->column(txtDV, 14);
+    rows->heading("No of Duty Shifts at  each   location-");
+    rows->column(txtDS, 14);
+    rows->finish();
+    section->add(rows);
+    return section;
+}
+
+void frmM1::txtNB_Change()
+{
+    m_beatLengths = countOf(txtNB, MostRows);
+    buildRows(m_beatLengths, txtTB, {&txtND, &txtNS, &txtBL, &txtNM});
+}
+
+void frmM1::txtVL_Change()
+{
+    m_locations = countOf(txtVL, MostRows);
+    buildRows(m_locations, txtNVL, {&txtDV, &txtDS});
+}
+
+void frmM1::cmdData_Click()
+{
+    // Their changes set the counts and show the rows.
+    txtNB.setText(cell(2, 2));
+    txtVL.setText(cell(8, 2));
+    for (TextBox* count : {&txtNB, &txtVL})
+        if (count->text().isEmpty())
+            count->setText("0");
+    for (int i = 0; i < m_beatLengths; ++i) {
+        txtND(i).setText(cell(3, 3 + i));
+        txtNS(i).setText(cell(4, 3 + i));
+        txtBL(i).setText(cell(5, 3 + i));
+        txtNM(i).setText(cell(6, 3 + i));
+    }
+    for (int i = 0; i < m_locations; ++i) {
+        txtDV(i).setText(cell(9, 3 + i));
+        txtDS(i).setText(cell(10, 3 + i));
+    }
+    imported(cmdCompute);
+}
+
+void frmM1::cmdCompute_Click()
+{
+    std::array<misc::BeatLength, MostRows> beatLengths;
+    for (int i = 0; i < m_beatLengths; ++i)
+        beatLengths[static_cast<std::size_t>(i)] = {.days = valueOf(txtND(i)),
+                                                    .shifts = valueOf(txtNS(i)),
+                                                    .beats = valueOf(txtBL(i)),
+                                                    .men = valueOf(txtNM(i))};
+    std::array<misc::VulnerableLocation, MostRows> locations;
+    for (int i = 0; i < m_locations; ++i)
+        locations[static_cast<std::size_t>(i)] = {.days = valueOf(txtDV(i)), .shifts = valueOf(txtDS(i))};
+
+    // The sums of M.1 and M.4 are not cleared: what is imported after a Compute is added to what was before.
+    m_atWork = &txtNM;
+    const double monsoon =
+        misc::addMonsoonPatrolling(m_monsoonMandays, {beatLengths.data(), static_cast<std::size_t>(m_beatLengths)});
+    const float hotWeather = misc::hotWeatherPatrolling(m_t1.LwrTotal);
+    const float coldWeather = misc::coldWeatherPatrolling(m_t1.LwrTotal);
+    m_atWork = &txtDV;
+    const float vulnerable =
+        misc::addVulnerableLocations(m_locationMandays, {locations.data(), static_cast<std::size_t>(m_locations)});
+    TotalMandays = misc::firstTotal(monsoon, hotWeather, coldWeather, vulnerable);
+    m_monsoonMandays = monsoon;
+    m_locationMandays = vulnerable;
+
+    setText(txtman1, picture(monsoon, "####"));
+    setText(txtMan2, picture(hotWeather, "####"));
+    setText(txtMan3, picture(coldWeather, "####"));
+    setText(txtMan4, picture(vulnerable, "####"));
+    txtNB.setLocked(true);
+    txtVL.setLocked(true);
+    computed(cmdCompute);
+}

@@ -1,0 +1,185 @@
+#include "yards/frmY.h"
+
+#include "figures/conversions.h"
+#include "figures/picture.h"
+#include "screens/flow/frmStart.h"
+#include "track/frmT1.h"
+
+using controls::Caption;
+using controls::RowSheet;
+using controls::setText;
+using figures::picture;
+
+namespace {
+constexpr int ColumnWidth = 12;  // alike for all, so that the cells of the headings stand over their columns
+}
+
+frmY::frmY(flow::Chain& owner, const frmStart& start, const frmT1& t1)
+    : ImportScreen(owner, "frmY", "Entering Yard Data", "YD", "Yard Data", "YdGrid")
+{
+    layOut();
+    cmdCOMPUTE.setEnabled(false);
+
+    openSource(start.txtT1(1).text());
+    for (const int i : {1, 3, 4})
+        txtT1(i).setText(t1.txtT1(i).text());
+
+    onChange(txtNYd, &frmY::txtNYd_Change);
+    onClick(cmdYdata, &frmY::cmdYdata_Click);
+    onClick(cmdCOMPUTE, &frmY::cmdCOMPUTE_Click);
+    enableByTyping(cmdCOMPUTE, {&txtNYd});
+    for (const auto* entered : {&txtStn, &txtM1, &txtM2, &TXTM3, &TXTM4, &txtM5, &txtM6})
+        enableByTyping(cmdCOMPUTE, *entered);
+}
+
+void frmY::layOut()
+{
+    QHBoxLayout& what = layout.headerLine();
+    what.addWidget(new Caption("Running and Non Running Yard Lines and Turnouts on the section of Sr S.E...-"));
+    addDate(what);
+
+    QHBoxLayout& who = layout.headerLine();
+    controls::addField(who, "Sr S.E. with index-", txtT1(1), 30);
+    controls::addBox(who, txtT1(4), 4, "Sr S.E. index");
+    controls::addField(who, "Gauge", txtT1(3), 5);
+    who.addStretch();
+    controls::addField(who, "No of Station Yards", txtNYd, 5);
+    for (const int taken : {1, 3, 4})
+        txtT1(taken).setLocked(true);
+    txtNYd.setToolTip("Data for a maximum of 12 yards can be given");
+    txtNYd.setLimit(MostYards);
+
+    layout.addRows(yardRows());
+    QHBoxLayout& result = layout.lineBelow();
+    result.addStretch();
+    controls::addField(result, "  Total Numer of Mandays for Yard      maintenance", txtYd4, 12);
+    txtYd4.setNumeric();
+    txtYd4.setLocked(true);
+
+    addGrid();
+    layout.buttons({&cmdYdata, &cmdCOMPUTE, &cmdPrint, &cmdNext});
+    for (controls::Button* final : {&cmdCOMPUTE, &cmdPrint, &cmdNext})
+        final->setToolTip(flow::LockTip);
+}
+
+RowSheet* frmY::yardRows()
+{
+    for (const auto* figure : {&txtM1, &txtM2, &TXTM3, &TXTM4, &txtM5, &txtM6}) {
+        for (int i = 0; i <= MostYards; ++i)
+            (*figure)(i).setNumeric();
+        (*figure)(MostYards).setLocked(true);
+    }
+    for (int i = 0; i < MostYards; ++i)
+        showRow(i, false);
+    showTotals(false);
+
+    // "Station" is drawn with the lower heading, right over the names.
+    auto* rows = new RowSheet("yard", MostYards);
+    rows->withTotalRow("Total");
+    rows->heading(" Station         Length of Lines(km)                         No of Turnouts", 7)
+        .setLines({{"", "", "Length of Lines(km)", "", "", "No of Turnouts", ""}});
+    rows->heading("    Machine          Manually        Manually             Machine      Manually        Manually    "
+                  "       Packed            Packed           Packed              Packed        Packed         Packed   "
+                  "             RYL                 RYL               NRYL               on RYL         on RYL        "
+                  "on NYRL",
+                  7)
+        .setLines({{"", "Machine", "Manually", "Manually", "Machine", "Manually", "Manually"},
+                   {"", "Packed", "Packed", "Packed", "Packed", "Packed", "Packed"},
+                   {"Station", "RYL", "RYL", "NRYL", "on RYL", "on RYL", "on NYRL"}});
+    rows->column(txtStn, ColumnWidth);
+    rows->column(txtM1, ColumnWidth, "length");
+    rows->column(txtM2, ColumnWidth, "length");
+    rows->column(TXTM3, ColumnWidth, "length");
+    rows->column(TXTM4, ColumnWidth, "turnouts");
+    rows->column(txtM5, ColumnWidth, "turnouts");
+    rows->column(txtM6, ColumnWidth, "turnouts");
+    rows->finish();
+    return rows;
+}
+
+void frmY::showRow(int i, bool shown)
+{
+    for (auto* boxes : {&txtStn, &txtM1, &txtM2, &TXTM3, &TXTM4, &txtM5, &txtM6})
+        (*boxes)(i).setVisible(shown);
+}
+
+void frmY::showTotals(bool shown)
+{
+    for (auto* boxes : {&txtM1, &txtM2, &TXTM3, &TXTM4, &txtM5, &txtM6})
+        (*boxes)(MostYards).setVisible(shown);
+}
+
+void frmY::txtNYd_Change()
+{
+    NYd = countOf(txtNYd, MostYards);
+    for (int i = 0; i < MostYards; ++i)
+        showRow(i, i < NYd);
+    showTotals(true);
+}
+
+void frmY::cmdYdata_Click()
+{
+    txtNYd.setText(cell(1, 2));  // its change sets NYd and shows the rows
+    for (int i = 0; i < NYd; ++i) {
+        txtStn(i).setText(cell(i + 1, 3));
+        txtM1(i).setText(cell(i + 1, 4));
+        txtM2(i).setText(cell(i + 1, 5));
+        TXTM3(i).setText(cell(i + 1, 6));
+        TXTM4(i).setText(cell(i + 1, 7));
+        txtM5(i).setText(cell(i + 1, 8));
+        txtM6(i).setText(cell(i + 1, 9));
+    }
+    imported(cmdCOMPUTE);
+}
+
+yards::YardLines frmY::readRow(int i)
+{
+    const auto at = static_cast<std::size_t>(i);
+    Yd1[at] = valueOf(txtM1(i));
+    Yd2[at] = valueOf(txtM2(i));
+    Yd3[at] = valueOf(TXTM3(i));
+    Yd4[at] = valueOf(TXTM4(i));
+    Yd5[at] = valueOf(txtM5(i));
+    Yd6[at] = figures::toSingle(valueOf(txtM6(i)),
+                                figures::numbered("the number of turnouts on non-running lines of yard", i), i);
+    return {.machineKm = Yd1[at],
+            .manualKm = Yd2[at],
+            .nonRunningKm = Yd3[at],
+            .machineTurnouts = Yd4[at],
+            .manualTurnouts = Yd5[at],
+            .nonRunningTurnouts = Yd6[at]};
+}
+
+void frmY::cmdCOMPUTE_Click()
+{
+    std::array<yards::YardLines, MostYards> entered;
+    for (int i = 0; i < NYd; ++i)
+        entered[static_cast<std::size_t>(i)] = readRow(i);
+
+    // The sums are not cleared: yards imported after a Compute are added to those before.
+    const yards::YardLines sums = yards::addYards({.machineKm = Sum1,
+                                                   .manualKm = Sum2,
+                                                   .nonRunningKm = Sum3,
+                                                   .machineTurnouts = Sum4,
+                                                   .manualTurnouts = Sum5,
+                                                   .nonRunningTurnouts = Sum6},
+                                                  {entered.data(), static_cast<std::size_t>(NYd)});
+    YdMan = yards::yardMandays(sums, txtT1(3).text().toStdString());
+    Sum1 = sums.machineKm;
+    Sum2 = sums.manualKm;
+    Sum3 = sums.nonRunningKm;
+    Sum4 = sums.machineTurnouts;
+    Sum5 = sums.manualTurnouts;
+    Sum6 = sums.nonRunningTurnouts;
+
+    setText(txtM1(MostYards), picture(Sum1, "####.##"));
+    setText(txtM2(MostYards), picture(Sum2, "####.##"));
+    setText(TXTM3(MostYards), picture(Sum3, "####.##"));
+    setText(TXTM4(MostYards), picture(Sum4, "####.##"));
+    setText(txtM5(MostYards), picture(Sum5, "####.##"));
+    setText(txtM6(MostYards), picture(Sum6, "####.##"));
+    showTotals(true);  // also when no count was ever given
+    setText(txtYd4, picture(YdMan, "#####.##"));
+    txtNYd.setLocked(true);
+    computed(cmdCOMPUTE);
+}

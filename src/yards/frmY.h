@@ -1,0 +1,68 @@
+#pragma once
+#include <array>
+
+#include "screens/flow/data_screen.h"
+#include "yards/yard_norms.h"
+
+class frmStart;
+class frmT1;
+
+/// The station yards under one Sr SE: lines and turnouts by the way they are packed, and the mandays they take.
+/// Shown and printed only; no other screen reads it.
+class frmY : public flow::ImportScreen {
+public:
+    static constexpr int MostYards = 12;
+
+    frmY(flow::Chain& chain, const frmStart& start, const frmT1& t1);
+
+    /// 1 Sr SE, 3 gauge, 4 index.
+    controls::ControlArray<controls::TextBox> txtT1{"txtT1", {1, 3, 4}};
+    controls::TextBox txtNYd{"txtNYd"};
+
+    // The yards; element 12 is the column's total.
+    controls::ControlArray<controls::TextBox> txtStn{"txtStn", MostYards};
+    controls::ControlArray<controls::TextBox> txtM1{"txtM1", MostYards + 1};
+    controls::ControlArray<controls::TextBox> txtM2{"txtM2", MostYards + 1};
+    controls::ControlArray<controls::TextBox> TXTM3{"TXTM3", MostYards + 1};
+    controls::ControlArray<controls::TextBox> TXTM4{"TXTM4", MostYards + 1};
+    controls::ControlArray<controls::TextBox> txtM5{"txtM5", MostYards + 1};
+    controls::ControlArray<controls::TextBox> txtM6{"txtM6", MostYards + 1};
+
+    controls::TextBox txtYd4{"txtYd4"};  ///< yard mandays of the Sr SE
+
+    controls::Button cmdYdata{"cmdYdata", "&Data from a file"};
+    controls::Button cmdCOMPUTE{"cmdCOMPUTE", "&Compute"};
+
+    int NYd = 0;  ///< yards, 12 at most
+
+    // As computed, yard by yard: lines in km (1 machine packed, 2 manually packed, 3 non-running), turnouts on them.
+    std::array<double, MostYards + 1> Yd1{};
+    std::array<double, MostYards + 1> Yd2{};
+    std::array<double, MostYards + 1> Yd3{};
+    std::array<double, MostYards + 1> Yd4{};
+    std::array<double, MostYards + 1> Yd5{};
+    std::array<float, MostYards + 1> Yd6{};
+    // The columns' sums. A Compute adds to them.
+    double Sum1 = 0.0;
+    double Sum2 = 0.0;
+    double Sum3 = 0.0;
+    double Sum4 = 0.0;
+    double Sum5 = 0.0;
+    float Sum6 = 0.0F;
+    float YdMan = 0.0F;  ///< yard mandays of the Sr SE
+
+    QWidget* firstBox() override { return &txtNYd; }
+
+private:
+    void txtNYd_Change();
+    void cmdYdata_Click();
+    void cmdCOMPUTE_Click();
+
+    QWidget* boxOf(const figures::RunTimeError& error) override { return &txtStn(error.row()); }
+
+    void layOut();
+    controls::RowSheet* yardRows();
+    void showRow(int i, bool shown);
+    void showTotals(bool shown);
+    yards::YardLines readRow(int i);
+};
