@@ -2,6 +2,8 @@
 
 #include "activities/misc/frmM1.h"
 #include "activities/misc/frmM2.h"
+#include "activities/site/frmS1.h"
+#include "activities/site/frmS2.h"
 #include "screens/flow/chain.h"
 #include "screens/flow/frmStart.h"
 #include "track/frmT1.h"
@@ -19,4 +21,7 @@ void compose(flow::Chain& chain)
     chain.add<frmM1>([](flow::Chain& c) { return std::make_unique<frmM1>(c, c.get<frmStart>(), c.get<frmT1>()); });
     chain.add<frmM2>(
         [](flow::Chain& c) { return std::make_unique<frmM2>(c, c.get<frmStart>(), c.get<frmT1>(), c.get<frmM1>()); });
+    chain.add<frmS1>([](flow::Chain& c) { return std::make_unique<frmS1>(c, c.get<frmStart>(), c.get<frmT1>()); });
+    chain.add<frmS2>(
+        [](flow::Chain& c) { return std::make_unique<frmS2>(c, c.get<frmStart>(), c.get<frmT1>(), c.get<frmS1>()); });
 }
