@@ -6,6 +6,7 @@
 #include "activities/site/frmS2.h"
 #include "screens/flow/chain.h"
 #include "screens/flow/frmStart.h"
+#include "summary/frmSummary.h"
 #include "track/frmT1.h"
 #include "track/frmT2.h"
 #include "track/frmT4.h"
@@ -24,4 +25,5 @@ void compose(flow::Chain& chain)
     chain.add<frmS1>([](flow::Chain& c) { return std::make_unique<frmS1>(c, c.get<frmStart>(), c.get<frmT1>()); });
     chain.add<frmS2>(
         [](flow::Chain& c) { return std::make_unique<frmS2>(c, c.get<frmStart>(), c.get<frmT1>(), c.get<frmS1>()); });
+    chain.add<frmSummary>([](flow::Chain& c) { return std::make_unique<frmSummary>(c); });
 }

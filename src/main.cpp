@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QIcon>
 
 #include "compose.h"
 #include "screens/flow/chain.h"
@@ -9,7 +10,10 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName("crewmark");
-    QApplication::setApplicationDisplayName("Crewmark");
+    QApplication::setDesktopFileName("crewmark");  // whose windows these are, for the desktop
+    Q_INIT_RESOURCE(drawings);
+    QApplication::setWindowIcon(QIcon(":/crewmark.svg"));
+    QApplication::setCursorFlashTime(0);  // a blinking cursor would wake the machine, and paint, twice a second
     QApplication::setQuitOnLastWindowClosed(false);  // the chain knows when the last screen may go
 
     flow::DesktopDialogs dialogs;

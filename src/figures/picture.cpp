@@ -85,7 +85,7 @@ std::string picture(double value, std::string_view places)
             text.append(number.digits + before, static_cast<std::size_t>(number.count - before));
         }
     } else if (hasPoint) {
-        text = ".";
+        text += '.';
     }
     return text;
 }

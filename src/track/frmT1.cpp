@@ -9,7 +9,6 @@
 #include "screens/flow/frmStart.h"
 #include "track/track_length.h"
 
-using controls::Caption;
 using controls::RowSheet;
 using figures::picture;
 
@@ -33,6 +32,7 @@ frmT1::frmT1(flow::Chain& owner, const frmStart& start)
     cmdCompute.setEnabled(false);
 
     openSource(start.txtT1(1).text());
+    advise("Choose the gauge: it opens the import.");
     txtT1(1).setText(start.txtT1(0).text());
     txtT1(4).setText(start.txtT1(4).text());
     DataFilePath = start.txtT1(1).text();
@@ -49,13 +49,14 @@ frmT1::frmT1(flow::Chain& owner, const frmStart& start)
 void frmT1::layOut()
 {
     QHBoxLayout& who = layout.headerLine();
-    controls::addField(who, "Section-", txtT1(0), 30);
+    controls::Caption& section = controls::addField(who, "Section-", txtT1(0), 30);
     controls::addField(who, "Sr S.E. with index-", txtT1(1), 30);
     controls::addBox(who, txtT1(4), 4, "Sr S.E. index");
     addDate(who);
 
     QHBoxLayout& how = layout.headerLine();
-    controls::addField(how, "Jurisdiction -", txtT1(2), 30);
+    // The boxes that are typed stand under one another.
+    section.setMinimumWidth(controls::addField(how, "Jurisdiction -", txtT1(2), 30).sizeHint().width());
     auto* fraG = new QGroupBox("Gauge");
     fraG->setObjectName("fraG");
     auto* gauges = new QHBoxLayout(fraG);
@@ -86,7 +87,7 @@ void frmT1::layOut()
     txtNSeg.setLocked(true);
 
     layout.addRows(segmentRows());
-    addGrid();
+    addGrid(cmdCopy);
     layout.buttons({&cmdCopy, &cmdCompute, &cmdPrint, &cmdNext});
 }
 
@@ -167,13 +168,19 @@ void frmT1::txtNSeg_Change()
     for (int i = SegCount; i < MostSegments; ++i)
         showRow(i, false);
     cmdCompute.setEnabled(true);
+    openImport();
+}
+
+void frmT1::openImport()
+{
     cmdCopy.setEnabled(true);
+    withdrawAdvice();
 }
 
 void frmT1::optBG_Click()
 {
     txtT1(3).setText("BG");
-    cmdCopy.setEnabled(true);
+    openImport();
 }
 
 void frmT1::optMG_Click()
@@ -190,7 +197,7 @@ void frmT1::optNG_Click()
 void frmT1::packByHand(const QString& gauge)
 {
     txtT1(3).setText(gauge);
-    cmdCopy.setEnabled(true);
+    openImport();
     chkSub.setChecked(false);
     for (int i = 0; i < SegCount; ++i)
         forceMethod(i, ManuallyPacked);
@@ -223,6 +230,7 @@ void frmT1::cmdCopy_Click()
         cboMtc(i).setText(cell(i + 1, 13));
     }
     cmdCompute.setFocus();
+    markNext(&cmdCompute);
 }
 
 void frmT1::cmdCompute_Click()

@@ -79,6 +79,7 @@ private:
     controls::RowSheet* segmentRows();
     void showRow(int i, bool shown);
     void packByHand(const QString& gauge);
+    void openImport();
     void forceMethod(int i, const QString& method);
     bool computeRow(int i);
 

@@ -53,7 +53,7 @@ void frmT2::layOut()
     auto* legend = new Caption("A- Formation     B- Alignment    C- Rainfall");
     legend->setLines({{legend->text()}});
     notes.addWidget(legend);
-    addGrid();
+    addGrid(cmdCopy);
     layout.buttons({&cmdCopy, &cmdCompute, &cmdPrint, &cmdNext});
     for (controls::Button* button : {&cmdCompute, &cmdPrint, &cmdNext})
         button->setToolTip(flow::LockTip);

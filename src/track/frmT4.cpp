@@ -78,6 +78,7 @@ void frmT4::layOut()
     sum.addStretch(1);
     controls::addField(sum, "Total Mandays for      ('T'+ 'R') Activities        for the Sr.S.E. ", txtMan3(Total), 12);
     layout.buttons({&cmdCompute, &cmdPrint, &cmdNext});
+    markNext(&cmdCompute);
     for (controls::Button* button : {&cmdCompute, &cmdPrint, &cmdNext})
         button->setToolTip(flow::LockTip);
 }

@@ -56,7 +56,7 @@ void frmY::layOut()
     txtYd4.setNumeric();
     txtYd4.setLocked(true);
 
-    addGrid();
+    addGrid(cmdYdata);
     layout.buttons({&cmdYdata, &cmdCOMPUTE, &cmdPrint, &cmdNext});
     for (controls::Button* final : {&cmdCOMPUTE, &cmdPrint, &cmdNext})
         final->setToolTip(flow::LockTip);

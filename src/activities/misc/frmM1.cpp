@@ -66,6 +66,7 @@ Section* weatherPatrolling(const QString& heading, TextBox& length, TextBox& man
     addField(line, "Length of LWR track on single line basis(km) ?", length, FigureWidth);
     length.setNumeric();
     length.setLocked(true);
+    section->nameAfterActivity(length);
     section->addResult(line, "Calculated Mandays - ", mandays, FigureWidth);
     return section;
 }
@@ -101,7 +102,7 @@ void frmM1::layOut()
                      {weatherPatrolling("M.2-Hot Weather Patrolling- Monsoon Patrollong :--", txtHLWR, txtMan2),
                       weatherPatrolling("M.3-Cold Weather Patrolling-", txtCLWR, txtMan3), vulnerableLocations()}});
 
-    addGrid();
+    addGrid(cmdData);
     layout.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
     for (controls::Button* final : {&cmdPrint, &cmdNext})
         final->setToolTip(flow::LockTip);

@@ -80,7 +80,7 @@ void frmM2::layOut(const frmT1& t1)
     txtMan9.setNumeric();
     txtMan9.setLocked(true);
 
-    addGrid();
+    addGrid(cmdData);
     layout.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
     for (controls::Button* final : {&cmdPrint, &cmdNext})
         final->setToolTip(flow::LockTip);

@@ -77,7 +77,7 @@ void frmS1::layOut(const frmT1& t1)
                                "Length of Bridges in Metres- (Lineal Waterway more than 150 metres) ", txtMan12));
     down->addWidget(sharpCurves());
 
-    addGrid();
+    addGrid(cmdData);
     layout.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
     for (controls::Button* final : {&cmdPrint, &cmdNext})
         final->setToolTip(flow::LockTip);
@@ -97,7 +97,11 @@ Section* frmS1::structures(int kind, const QString& heading, const QString& leng
     lengths->line("Number of Tracks-", txtTB, first, last, LengthCharacters);
     Caption& caption = lengths->line(lengthCaption, txtND, first, last, LengthCharacters);
     alignBoxes(caption);
-    return section(heading, lengths, result);
+    Section* whole = section(heading, lengths, result);
+    for (int i = first; i <= last; ++i)
+        for (TextBox* box : {&txtTB(i), &txtND(i)})
+            whole->nameAfterActivity(*box);
+    return whole;
 }
 
 Section* frmS1::sharpCurves()

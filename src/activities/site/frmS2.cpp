@@ -116,7 +116,7 @@ void frmS2::layOut(const frmT1& t1)
     txtMan20.setNumeric();
     txtMan20.setLocked(true);
 
-    addGrid();
+    addGrid(cmdData);
     layout.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
     for (controls::Button* final : {&cmdPrint, &cmdNext})
         final->setToolTip(flow::LockTip);
@@ -163,6 +163,8 @@ Section* frmS2::pastYears(const QString& heading, const QString& caption, int fi
     auto* section = new Section(heading);
     auto* boxes = new BoxLines("year");
     boxes->line(caption, txtND, first, first + site::AveragedYears - 1, YearCharacters);
+    for (int i = first; i < first + site::AveragedYears; ++i)
+        section->nameAfterActivity(txtND(i));
     QHBoxLayout& line = section->line();
     line.addWidget(boxes);
     section->addResult(line, Result, result, ResultCharacters);

@@ -8,6 +8,7 @@ Button::Button(const QString& name, const QString& caption)
 {
     setObjectName(name);
     setText(caption);
+    setAccessibleName(caption.simplified().remove('&'));
 }
 
 void Button::keyPressEvent(QKeyEvent* event)

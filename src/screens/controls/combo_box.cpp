@@ -1,5 +1,6 @@
 #include "screens/controls/combo_box.h"
 
+#include <QAccessibleWidget>
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QWheelEvent>
@@ -8,8 +9,30 @@
 
 namespace controls {
 
+namespace {
+
+// On this platform the toolkit tells a list's text in the place of its name.
+class SpokenComboBox : public QAccessibleWidget {
+public:
+    explicit SpokenComboBox(ComboBox& box) : QAccessibleWidget(&box, QAccessible::ComboBox) {}
+
+    QString text(QAccessible::Text text) const override
+    {
+        return text == QAccessible::Value ? static_cast<ComboBox*>(widget())->text() : QAccessibleWidget::text(text);
+    }
+};
+
+QAccessibleInterface* speak(const QString&, QObject* object)
+{
+    auto* box = dynamic_cast<ComboBox*>(object);
+    return box ? new SpokenComboBox(*box) : nullptr;
+}
+
+}  // namespace
+
 ComboBox::ComboBox(const QString& name)
 {
+    [[maybe_unused]] static const bool spoken = (QAccessible::installFactory(speak), true);
     setObjectName(name);
     setEditable(true);
     setInsertPolicy(NoInsert);

@@ -15,7 +15,7 @@ namespace controls {
 
 namespace {
 
-constexpr int RecordsMeasured = 17;  // for the width of the columns: the most that any screen takes
+constexpr int RecordsTaken = 17;  // the most that any screen takes
 constexpr int FewestRecordsSeen = 3;
 constexpr int WidestColumn = 220;  // [px]; a memo may be longer
 constexpr int RecordsOnAnyDesktop = 10'000;
@@ -29,7 +29,7 @@ QString toQt(std::string_view text)
 
 class DataGrid::Model : public QAbstractTableModel {
 public:
-    Model(DataGrid& grid) : QAbstractTableModel(&grid), m_table(grid.m_table) {}
+    explicit Model(DataGrid& grid) : QAbstractTableModel(&grid), m_table(grid.m_table) {}
 
     void changed()
     {
@@ -78,7 +78,7 @@ DataGrid::DataGrid(const QString& name) : m_model(new Model(*this))
     verticalHeader()->setDefaultSectionSize(line);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    horizontalHeader()->setResizeContentsPrecision(RecordsMeasured);
+    horizontalHeader()->setResizeContentsPrecision(RecordsTaken);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setSizePolicy(policy);
 }
@@ -117,6 +117,11 @@ int DataGrid::heightOf(int records) const
     const bool wide = verticalHeader()->sizeHint().width() + horizontalHeader()->length() + 2 * frameWidth() > width();
     return horizontalHeader()->sizeHint().height() + records * line + 2 * frameWidth() + 1 +
            (wide ? horizontalScrollBar()->sizeHint().height() : 0);
+}
+
+int DataGrid::wholeHeight() const
+{
+    return heightOf(std::min(m_model->rowCount(), RecordsTaken));
 }
 
 QSize DataGrid::sizeHint() const

@@ -93,6 +93,10 @@ bool handleEntryKey(QWidget& box, QKeyEvent& event)
 {
     if (event.matches(QKeySequence::Paste))
         return openForTyping(box) && pasteBlock(box, QGuiApplication::clipboard()->text());
+    if (event.modifiers() == Qt::AltModifier && !event.text().isEmpty()) {
+        event.ignore();  // the mnemonic of a button that is closed now: no letter for the box
+        return true;
+    }
     if (event.modifiers() & ~Qt::KeypadModifier)
         return false;
     switch (event.key()) {

@@ -7,7 +7,8 @@ class QWidget;
 /// How one fills a screen of boxes quickly: the keys that every entry box has in common.
 namespace controls {
 
-/// Enter goes on like Tab, Up and Down go between rows, Paste spreads a spreadsheet block. False if not one of these.
+/// Enter goes on like Tab, Up and Down go between rows, Paste spreads a spreadsheet block, Alt and a letter type
+/// nothing. False if not one of these.
 bool handleEntryKey(QWidget& box, QKeyEvent& event);
 
 /// Puts a block (cells apart by tabs, rows by line ends) into `first` and the boxes right of it and below, as the

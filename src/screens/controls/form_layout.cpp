@@ -14,6 +14,8 @@ constexpr int Margin = 10;
 constexpr int Spacing = 6;
 constexpr int SectionSpacing = 12;
 constexpr int ColumnSpacing = 24;
+constexpr int LongestFigure = 12;  // [characters]
+constexpr int NarrowestName = 9;   // [characters]: where the desktop is scaled, long boxes give way first
 
 // As high as what it shows while there is room, so that the table below stands right under the rows.
 class Scroller : public QScrollArea {
@@ -183,10 +185,12 @@ Caption& addField(QBoxLayout& line, const QString& caption, TextBox& box, int ch
 
 void addBox(QBoxLayout& line, TextBox& box, int characters, const QString& spoken)
 {
-    if (characters > 0)
-        box.setFixedWidth(widthOf(box, characters));
+    if (characters > 0) {
+        box.setMaximumWidth(widthOf(box, characters));
+        box.setMinimumWidth(widthOf(box, characters > LongestFigure ? NarrowestName : characters));
+    }
     box.setAccessibleName(spoken);
-    line.addWidget(&box, characters > 0 ? 0 : 1);
+    line.addWidget(&box, std::max(1, characters));
 }
 
 }  // namespace controls

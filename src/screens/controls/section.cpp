@@ -39,8 +39,13 @@ Caption& Section::addResult(QHBoxLayout& line, const QString& caption, TextBox& 
     box.setLocked(true);
     line.addStretch();
     Caption& label = addField(line, caption, box, characters);
-    box.setAccessibleName(label.spoken() + ", " + m_heading->spoken());
+    nameAfterActivity(box);
     return label;
+}
+
+void Section::nameAfterActivity(TextBox& box) const
+{
+    box.setAccessibleName(box.accessibleName() + ", " + m_heading->spoken());
 }
 
 void Section::setOpen(bool open)

@@ -21,6 +21,9 @@ public:
     /// The activity's result at the right end of a line: locked, and named after the activity to people who listen.
     Caption& addResult(QHBoxLayout& line, const QString& caption, TextBox& box, int characters);
 
+    /// Adds the activity to the box's spoken name, where another activity has a box of the same caption.
+    void nameAfterActivity(TextBox& box) const;
+
     /// Enables or disables all but the heading, which says in either case what this is about.
     void setOpen(bool open);
 

@@ -130,6 +130,15 @@ void TextBox::keyPressEvent(QKeyEvent* event)
         QLineEdit::keyPressEvent(event);
 }
 
+void TextBox::inputMethodEvent(QInputMethodEvent* event)
+{
+    // A read-only line of the toolkit takes what an input method sends late.
+    if (isLocked())
+        event->ignore();
+    else
+        QLineEdit::inputMethodEvent(event);
+}
+
 void TextBox::contextMenuEvent(QContextMenuEvent* event)
 {
     const std::unique_ptr<QMenu> menu(createStandardContextMenu());

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
+#include <utility>
 
 #include "screens/flow/chain.h"
 
@@ -29,7 +30,15 @@ void StepScreen::computed(controls::Button& compute)
     cmdNext.setEnabled(true);
     cmdPrint.setEnabled(true);
     cmdPrint.setFocus();
+    markNext(&cmdPrint);
     compute.setEnabled(false);
+}
+
+void StepScreen::printed()
+{
+    DataScreen::printed();
+    cmdNext.setFocus();
+    markNext(&cmdNext);
 }
 
 void StepScreen::cmdNext_Click()
@@ -52,8 +61,9 @@ ImportScreen::ImportScreen(Chain& owner, const QString& name, const QString& cap
     grid.setTable(store::Table(tableName.toStdString(), {}));  // an import before any file names what is missing
 }
 
-void ImportScreen::addGrid()
+void ImportScreen::addGrid(controls::Button& import)
 {
+    m_import = &import;
     auto* place = new QWidget;
     auto* down = new QVBoxLayout(place);
     down->setContentsMargins(0, 0, 0, 0);
@@ -87,10 +97,24 @@ void ImportScreen::openSource(const QString& path)
     m_message->setText(QString::fromStdString(reading.reason.empty() ? reading.notice : reading.reason));
     if (reading.reason.empty()) {
         grid.setTable(std::move(reading.table));
+        markNext(m_import);
         return;
     }
     grid.hide();
     m_reason = m_message->text();
+}
+
+void ImportScreen::advise(const QString& advice)
+{
+    m_advised = m_message->text().isEmpty();
+    if (m_advised)
+        m_message->setText(advice);
+}
+
+void ImportScreen::withdrawAdvice()
+{
+    if (std::exchange(m_advised, false))
+        m_message->clear();
 }
 
 void ImportScreen::opened()
@@ -104,15 +128,18 @@ void ImportScreen::imported(controls::Button& compute)
     m_computeOpened = true;
     compute.setEnabled(true);
     compute.setFocus();
+    markNext(&compute);
 }
 
 void ImportScreen::enableByTyping(controls::Button& compute, std::initializer_list<controls::TextBox*> boxes)
 {
     for (controls::TextBox* box : boxes)
         connect(box, &QLineEdit::textEdited, this, [this, &compute] {
-            if (!m_computeOpened)
-                compute.setEnabled(true);
+            if (m_computeOpened)
+                return;
             m_computeOpened = true;
+            compute.setEnabled(true);
+            markNext(&compute);
         });
 }
 

@@ -34,6 +34,9 @@ protected:
     /// print.
     void computed(controls::Button& compute);
 
+    /// With the sheet printed, the user goes on to Next.
+    void printed() override;
+
     void cmdNext_Click();
 };
 
@@ -44,12 +47,16 @@ protected:
     ImportScreen(Chain& chain, const QString& name, const QString& caption, const QString& tableName,
                  const QString& sourceCaption, const QString& gridName);
 
-    /// Puts the grid with its heading under the rows.
-    void addGrid();
+    /// Puts the grid with its heading under the rows; `import` takes its figures over.
+    void addGrid(controls::Button& import);
 
     /// Reads the table of the data file at `path` into the grid. What goes wrong is told once, when the screen is there
     /// to be seen, and stays to be read in the grid's place: the boxes can be typed all the same.
     void openSource(const QString& path);
+
+    /// What is to be done before the import opens, beside the table's title; a remark on the file itself goes first.
+    void advise(const QString& advice);
+    void withdrawAdvice();
 
     /// The first keystroke in one of the boxes opens Compute, unless an import has done so already: typing never
     /// opens it a second time, when the figures have been computed.
@@ -71,6 +78,8 @@ private:
     QString m_sourceCaption;
     QLabel* m_message;
     QString m_reason;
+    bool m_advised = false;
+    const controls::Button* m_import = nullptr;
     bool m_computeOpened = false;
 };
 

@@ -43,6 +43,7 @@ frmStart::frmStart(flow::Chain& owner)
 
     for (int i = 0; i < txtT1.size(); ++i)
         onChange(txtT1(i), &frmStart::txtT1_Change);
+    showDataFile();
     onClick(cmdFile, &frmStart::cmdFile_Click);
     onClick(cmdProceed, &frmStart::cmdProceed_Click);
 }
@@ -88,6 +89,7 @@ void frmStart::layOut()
 
     auto* fields = new QGridLayout;
     fields->setVerticalSpacing(8);
+    fields->setHorizontalSpacing(6);
     down->addLayout(fields);
     int row = 0;
     const auto field = [&](const QString& caption, TextBox& box, int characters) {
@@ -114,6 +116,7 @@ void frmStart::layOut()
     fields->addWidget(&cmdFile, row, 2);
     auto* index = new QHBoxLayout;
     index->setSpacing(6);
+    index->setContentsMargins(12, 0, 0, 0);
     controls::addField(*index, "Index", txtT1(4), 4);
     fields->addLayout(index, row, 3);
     fields->setColumnStretch(1, 1);
@@ -128,8 +131,8 @@ void frmStart::layOut()
 
 bool frmStart::holdsFigures() const
 {
-    constexpr std::array Entered = {0, 1, 2, 3, 5};
-    return std::any_of(Entered.begin(), Entered.end(), [this](int i) { return !txtT1(i).text().trimmed().isEmpty(); });
+    constexpr std::array entered = {0, 1, 2, 3, 5};
+    return std::any_of(entered.begin(), entered.end(), [this](int i) { return !txtT1(i).text().trimmed().isEmpty(); });
 }
 
 void frmStart::cmdFile_Click()
@@ -138,13 +141,13 @@ void frmStart::cmdFile_Click()
     if (!path.isEmpty())
         m_folder = QFileInfo(path).absolutePath();
     txtT1(1).setText(path);
-    txtT1(1).setToolTip(controls::plainTip(path));  // the box shows the end of a long one
     cmdProceed.setEnabled(true);
     cmdProceed.setFocus();
 }
 
 void frmStart::txtT1_Change()
 {
+    showDataFile();
     // Whichever box changed: the number of Sr SEs is kept from 1 to 15.
     const double read = figures::countUpTo(MostSrSes + 1, txtT1(3).text().toStdString());
     SrSeCount = figures::toInt16(std::trunc(std::max(read, -1.0)), "the number of Sr SEs");
@@ -152,6 +155,14 @@ void frmStart::txtT1_Change()
         controls::rewrite(txtT1(3), "");
     else if (SrSeCount > MostSrSes)
         controls::rewrite(txtT1(3), QString::number(MostSrSes));
+}
+
+void frmStart::showDataFile()
+{
+    const QString path = txtT1(1).text();
+    const bool chosen = !path.trimmed().isEmpty();                       // the box starts with blanks
+    txtT1(1).setToolTip(chosen ? controls::plainTip(path) : QString());  // the box shows the end of a long one
+    markNext(chosen ? &cmdProceed : &cmdFile);
 }
 
 void frmStart::cmdProceed_Click()

@@ -28,6 +28,7 @@ private:
     void cmdProceed_Click();
     void txtT1_Change();
 
+    void showDataFile();
     void layOut();
     QWidget* titles();
 

@@ -1,6 +1,7 @@
 #include "screens/flow/printing.h"
 
 #include <QFile>
+#include <QLayout>
 #include <QPainter>
 #include <QPicture>
 #include <QPrinter>
@@ -8,6 +9,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "screens/controls/data_grid.h"
 #include "screens/controls/row_sheet.h"
 
 namespace flow {
@@ -64,6 +66,39 @@ private:
     QList<QPair<controls::RowSheet*, int>> m_pinned;
 };
 
+// The table of the data file is on the sheet as far as a screen takes it over, however few of its records are in view.
+class WholeTables {
+public:
+    explicit WholeTables(const QList<QWidget*>& parts)
+    {
+        for (QWidget* part : parts)
+            for (auto* view : part->findChildren<QTableView*>()) {
+                const auto* grid = dynamic_cast<const controls::DataGrid*>(view);
+                const int hidden = grid && !grid->isHidden() ? grid->wholeHeight() - grid->height() : 0;
+                if (hidden <= 0)
+                    continue;
+                m_stretched.append({part, part->height()});
+                resize(*part, part->height() + hidden);
+            }
+    }
+    ~WholeTables()
+    {
+        for (const auto& [part, height] : m_stretched)
+            resize(*part, height);
+    }
+    WholeTables(const WholeTables&) = delete;
+    WholeTables& operator=(const WholeTables&) = delete;
+
+private:
+    static void resize(QWidget& part, int height)
+    {
+        part.resize(part.width(), height);
+        part.layout()->activate();
+    }
+
+    QList<QPair<QWidget*, int>> m_stretched;
+};
+
 // A content that scrolls may be larger than its window; one that does not is as wide as the form.
 QSize sizeOf(const QWidget& part)
 {
@@ -103,6 +138,7 @@ void printForm(QWidget& form, const QList<QWidget*>& parts, QPrinter& printer, i
 {
     if (copies <= 0)
         return;
+    const WholeTables tables(parts);
     QSize whole(0, -Gap);
     for (const QWidget* part : parts)
         whole = QSize(std::max(whole.width(), sizeOf(*part).width()), whole.height() + sizeOf(*part).height() + Gap);

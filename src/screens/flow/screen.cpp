@@ -64,6 +64,12 @@ void Screen::goTo(QWidget& box)
     controls::bringIntoView(box);
 }
 
+void Screen::markNext(const QPushButton* button)
+{
+    for (auto* one : findChildren<QPushButton*>())
+        one->setDefault(one == button);
+}
+
 void Screen::addDate(QBoxLayout& line)
 {
     line.addStretch();

@@ -57,6 +57,9 @@ protected:
     /// Shows the user where to mend something.
     void goTo(QWidget& box);
 
+    /// Marks the button that the user is to press next, as long as it is enabled, and no other.
+    void markNext(const QPushButton* button);
+
     template <class Form>
     void onClick(QAbstractButton& button, void (Form::*handler)())
     {

@@ -154,6 +154,15 @@ TEST_F(Entry, AnyOtherKeyIsTheBoxesOwn)
     EXPECT_EQ(from(0).text(), "212.4");
 }
 
+TEST_F(Entry, TheMnemonicOfAClosedButtonIsNoLetterForTheBox)
+{
+    compute.setEnabled(false);
+    QTest::keyClick(&from(0), Qt::Key_C, Qt::AltModifier);
+    QTest::keyClick(&method(0), Qt::Key_C, Qt::AltModifier);
+    EXPECT_EQ(from(0).text(), "");
+    EXPECT_EQ(method(0).text(), "");
+}
+
 struct Block {
     const char* name;
     const char* text;

@@ -38,6 +38,19 @@ TEST(TextBoxTest, LockedIsReadOnlyAndPaleTogether)
     EXPECT_EQ(colour(box, QPalette::Text), ink);
 }
 
+TEST(TextBoxTest, LockedItTakesNothingFromAnInputMethodEither)
+{
+    TextBox box("txtTkm");
+    QInputMethodEvent composed("१", {});
+    composed.setCommitString("१२");
+    box.setLocked(true);
+    QCoreApplication::sendEvent(&box, &composed);
+    EXPECT_EQ(box.text(), "");
+    box.setLocked(false);
+    QCoreApplication::sendEvent(&box, &composed);
+    EXPECT_EQ(box.text(), "१२");
+}
+
 TEST(TextBoxTest, TabPassesALockedBoxButTheMouseMayCopyFromIt)
 {
     TextBox box("txtTkm");

@@ -1,0 +1,374 @@
+#include "summary/frmSummary.h"
+
+#include <algorithm>
+
+#include "activities/misc/frmM1.h"
+#include "activities/misc/frmM2.h"
+#include "activities/site/frmS1.h"
+#include "activities/site/frmS2.h"
+#include "figures/conversions.h"
+#include "figures/numeric_text.h"
+#include "figures/picture.h"
+#include "screens/flow/chain.h"
+#include "screens/flow/frmStart.h"
+#include "track/frmT1.h"
+#include "track/frmT2.h"
+#include "track/frmT4.h"
+#include "yards/frmY.h"
+
+using controls::Caption;
+using controls::RowSheet;
+using controls::setText;
+using figures::numbered;
+using figures::picture;
+
+namespace {
+
+// Where the total row stands on the form, in twips: 15 of them are a pixel at 96 dots per inch.
+constexpr double FirstRowTop = 2160;
+constexpr double RowPitch = 360;
+
+constexpr int EstablishmentRow = 2;  // of the last data screen's table
+
+}  // namespace
+
+frmSummary::frmSummary(flow::Chain& owner)
+    : DataScreen(owner, "frmSummary", "Manpower Requirement Summary for the Division", {0, 1, 2})
+{
+    layOut();
+    markNext(&cmdTransfer);
+    for (controls::Button* button : {&cmdTransfer, &cmdCompute, &cmdTotal, &cmdPrint, &cmdExit})
+        button->setEnabled(false);
+    cmdExit.setVisible(false);
+
+    onChange(txtSSN, &frmSummary::txtSSN_Change);
+    onClick(cmdTransfer, &frmSummary::cmdTransfer_Click);
+    onClick(cmdCompute, &frmSummary::cmdCompute_Click);
+    onClick(cmdTotal, &frmSummary::cmdTotal_Click);
+    onClick(cmdExit, &frmSummary::cmdExit_Click);
+
+    const auto& start = chain.get<frmStart>();
+    txtRly(0).setText(start.txtT1(5).text());
+    txtRly(1).setText(start.txtT1(2).text());
+    txtSSN.setText(start.txtT1(3).text());
+}
+
+QWidget* frmSummary::firstBox()
+{
+    return cmdTransfer.isEnabled() ? static_cast<QWidget*>(&cmdTransfer) : &txtSSN;
+}
+
+std::array<const frmSummary::Column*, 13> frmSummary::columns() const
+{
+    return {&txtSN, &txtTkm, &txtSSE, &txtTR, &txtM, &txtS, &txtTMan, &txtKey, &txtLR, &txtCS, &txtSS, &txtEx, &txtSDC};
+}
+
+void frmSummary::layOut()
+{
+    QHBoxLayout& where = layout.headerLine();
+    controls::addField(where, "Railway-", txtRly(0), 30);
+    controls::addField(where, "Division-", txtRly(1), 30);
+    addDate(where);
+
+    QHBoxLayout& who = layout.headerLine();
+    controls::addField(who, "No.of Sr S.E's on the Division-", txtSSN, 4);
+    txtSSN.setLimit(MostSrSes);
+    who.addStretch();
+    auto* department = new Caption("Engineering Department");
+    department->setObjectName("LblRailway");
+    who.addWidget(department);
+    txtRly(0).setLocked(true);
+    txtRly(1).setLocked(true);
+
+    m_table = table();
+    layout.addRows(m_table);
+    layout.buttons({&cmdTransfer, &cmdCompute, &cmdTotal, &cmdPrint, &cmdExit});
+    cmdTransfer.setToolTip(flow::LockTip);
+    cmdPrint.setToolTip(flow::LockTip);
+}
+
+RowSheet* frmSummary::table()
+{
+    // All but the totals is open for typing: Grand Total reads what stands in the table.
+    for (const Column* column : columns()) {
+        for (int row = 0; row < Rows; ++row) {
+            if (column != &txtSSE)
+                (*column)(row).setNumeric();
+            (*column)(row).setVisible(row == 0);
+        }
+        (*column)(Total).setLocked(true);
+    }
+    txtSN(Total).setText("Total");
+    for (int row = 0; row < Rows; ++row) {
+        connect(&txtEx(row), &QLineEdit::textChanged, this, [this, row] { markShortage(row); });
+        for (const Column* establishment : {&txtKey, &txtLR, &txtSS, &txtSDC})
+            connect(&(*establishment)(row), &QLineEdit::textEdited, this, [this, row] { typedByHand(row); });
+    }
+
+    auto* rows = new RowSheet("Sr SE", MostSrSes);
+    rows->withTotalRow();
+    const auto column = [&](const QString& heading, const Column& boxes, int characters) {
+        rows->heading(heading);
+        rows->column(boxes, characters);
+    };
+    column("   S.No     (Index)", txtSN, 5);
+    column("    Sr       S.E.", txtSSE, 22);
+    column("    Total    Km", txtTkm, 8);
+    column("  Mandays          for            ('T'+ 'R')  ", txtTR, 10);
+    column("  Mandays            for                 ('M')  ", txtM, 9);
+    column("  Mandays            for                  ('S')  ", txtS, 9);
+    column("   Total             Mandays       (T+R+M+S)", txtTMan, 10);
+    column("  No of        Mates       Keymen", txtKey, 7);
+    column("Leave      Res-       erve", txtLR, 6);
+    column(" Calcu      lated Strength", txtCS, 8);
+    column("Sanctd. Strength", txtSS, 8);
+    column("  Sanctd            Decasua-    - lized  posts", txtSDC, 8);
+    column("Excess(+) Shortage(-)", txtEx, 8);
+    rows->finish();
+    return rows;
+}
+
+void frmSummary::showRow(int row)
+{
+    for (const Column* column : columns())
+        (*column)(row).setVisible(true);
+}
+
+// A shortage is told from an excess by its minus sign, in red, and in bold for who sees no red.
+void frmSummary::markShortage(int row)
+{
+    controls::TextBox& box = txtEx(row);
+    const bool shortage = figures::countUpTo(0, box.text().toStdString()) < 0;
+    box.setRed(shortage);
+    QFont font = box.font();
+    font.setBold(shortage);
+    box.setFont(font);
+}
+
+void frmSummary::txtSSN_Change()
+{
+    NumSrSE = figures::countUpTo(MostSrSes, txtSSN.text().toStdString());
+    for (int row = 1; row < figures::wholeRows(NumSrSE); ++row)
+        showRow(row);
+    cmdTransfer.setEnabled(true);
+
+    for (const Column* column : columns())
+        (*column)(Total).setProperty("Top", FirstRowTop + RowPitch * NumSrSE);
+    m_table->setTotalPlace(std::max(1.0, NumSrSE));  // the first row is always there
+    showRow(Total);
+}
+
+int frmSummary::row() const
+{
+    if (!(SrSEIndex >= 1 && SrSEIndex <= Rows))
+        throw figures::RunTimeError(figures::ErrorKind::SubscriptOutOfRange,
+                                    "the table has no row for the index " + figures::textOf(SrSEIndex));
+    return figures::toInt16(SrSEIndex - 1, "the row");
+}
+
+void frmSummary::cmdTransfer_Click()
+{
+    SrSEIndex = valueOf(chain.get<frmStart>().txtT1(4));
+    const int r = row();
+
+    const auto& t1 = chain.get<frmT1>();
+    txtSSE(r).setText(t1.txtT1(1).text());
+    txtSN(r).setText(t1.txtT1(4).text());
+    txtTkm(r).setText(t1.txtTkm(r).text());  // the segment of the row's own number, not the Sr SE's total
+    txtTR(r).setText(chain.get<frmT4>().txtMan3(frmT4::Total).text());
+    txtM(r).setText(chain.get<frmM2>().txtMan9.text());
+    const auto& s2 = chain.get<frmS2>();
+    txtS(r).setText(s2.txtMan20.text());
+
+    // Without them, a shown row waits for the figures to be typed.
+    m_rowToFill = r;
+    if (!txtKey(r).isHidden())
+        goTo(txtKey(r));
+    txtKey(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 18));
+    txtLR(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 19));
+    txtSS(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 20));
+    txtSDC(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 21));
+    m_rowToFill = -1;
+
+    cmdCompute.setEnabled(true);
+    cmdCompute.setFocus();
+    markNext(&cmdCompute);
+}
+
+void frmSummary::typedByHand(int row)
+{
+    if (row != m_rowToFill)
+        return;
+    m_rowToFill = -1;
+    cmdCompute.setEnabled(true);
+    markNext(&cmdCompute);
+}
+
+void frmSummary::cmdCompute_Click()
+{
+    const int r = row();
+    const auto at = static_cast<std::size_t>(r);
+    RowKm[at] = valueOf(txtTkm(r));
+    RowTR[at] = valueOf(txtTR(r));
+    RowM[at] = valueOf(txtM(r));
+    RowS[at] = valueOf(txtS(r));
+    RowKey[at] = valueOf(txtKey(r));
+    RowLR[at] = valueOf(txtKey(r));
+    RowSS[at] = valueOf(txtSS(r));
+    RowSDC[at] = valueOf(txtSDC(r));
+
+    m_inWork = &txtTR;
+    const summary::Strength strength = summary::strengthOf({.trMandays = RowTR[at],
+                                                            .mMandays = RowM[at],
+                                                            .sMandays = RowS[at],
+                                                            .matesAndKeymen = RowKey[at],
+                                                            .sanctioned = RowSS[at],
+                                                            .decasualisedPosts = RowSDC[at]},
+                                                           r);
+    RowTMan[at] = strength.mandays;
+    RowCS[at] = strength.calculated;
+    RowEx[at] = strength.excess;
+    setText(txtTMan(r), picture(RowTMan[at], "#####.##"));
+    setText(txtCS(r), picture(RowCS[at], "####"));
+    setText(txtEx(r), picture(RowEx[at], "####"));
+
+    if (SrSEIndex < NumSrSE)
+        nextSrSe();
+    else if (SrSEIndex == NumSrSE)
+        lastSrSe();
+}
+
+void frmSummary::nextSrSe()
+{
+    MsgAnswer = figures::toInt16(
+        chain.dialogs().showMessage(*this, "Proceed for Next Subordinate", "Continue for Next Sr SSE on the Division"),
+        "the button");
+    if (MsgAnswer != flow::Dialogs::Ok)
+        return;
+    chain.unload<frmT1>();
+    chain.unload<frmT2>();
+    chain.unload<frmT4>();
+    chain.unload<frmY>();
+    chain.unload<frmM1>();
+    chain.unload<frmM2>();
+    chain.unload<frmS1>();
+    chain.unload<frmS2>();
+
+    auto& start = chain.get<frmStart>();
+    start.txtT1(1).setText("");
+    start.txtT1(0).setText("");
+    start.txtT1(0).setFocus();
+    start.txtT1(4).setText(QString::fromStdString(figures::textOf(SrSEIndex + 1)));
+    chain.show<frmStart>();
+    cmdCompute.setEnabled(false);
+    cmdTransfer.setFocus();  // where this screen goes on when it comes back
+    markNext(&cmdTransfer);
+}
+
+void frmSummary::lastSrSe()
+{
+    MsgAnswer = figures::toInt16(
+        chain.dialogs().showMessage(*this, "Calculations for all Sr SSE's are over", "Now Total up the figures"),
+        "the button");
+    cmdTotal.setEnabled(true);
+    cmdTotal.setFocus();
+    markNext(&cmdTotal);
+    cmdCompute.setEnabled(false);
+}
+
+summary::TableRow frmSummary::readRow(int row)
+{
+    const auto at = static_cast<std::size_t>(row);
+    RowKm[at] = valueOf(txtTkm(row));
+    RowTR[at] = valueOf(txtTR(row));
+    RowM[at] = valueOf(txtM(row));
+    RowS[at] = valueOf(txtS(row));
+    RowTMan[at] = valueOf(txtTMan(row));
+    RowCS[at] = figures::toSingle(valueOf(txtCS(row)), numbered("the calculated strength at row", row), row);
+    RowKey[at] = valueOf(txtKey(row));
+    RowLR[at] = valueOf(txtLR(row));
+    RowSS[at] = valueOf(txtSS(row));
+    RowSDC[at] = valueOf(txtSDC(row));
+    RowEx[at] = valueOf(txtEx(row));
+    return {.km = RowKm[at],
+            .trMandays = RowTR[at],
+            .mMandays = RowM[at],
+            .sMandays = RowS[at],
+            .mandays = RowTMan[at],
+            .calculated = RowCS[at],
+            .matesAndKeymen = RowKey[at],
+            .leaveReserve = RowLR[at],
+            .sanctioned = RowSS[at],
+            .decasualisedPosts = RowSDC[at],
+            .excess = RowEx[at]};
+}
+
+void frmSummary::addRows(std::span<const summary::TableRow> rows)
+{
+    const summary::TableTotals sum = summary::addRows({.km = TotKm,
+                                                       .trMandays = TotTR,
+                                                       .mMandays = TotM,
+                                                       .sMandays = TotS,
+                                                       .mandays = TotTMan,
+                                                       .calculated = TotCS,
+                                                       .matesAndKeymen = TotKey,
+                                                       .leaveReserve = TotLR,
+                                                       .sanctioned = TotSS,
+                                                       .decasualisedPosts = TotSDC,
+                                                       .excess = TotEx},
+                                                      rows);
+    TotKm = sum.km;
+    TotTR = sum.trMandays;
+    TotM = sum.mMandays;
+    TotS = sum.sMandays;
+    TotTMan = sum.mandays;
+    TotCS = sum.calculated;
+    TotKey = sum.matesAndKeymen;
+    TotLR = sum.leaveReserve;
+    TotSS = sum.sanctioned;
+    TotSDC = sum.decasualisedPosts;
+    TotEx = sum.excess;
+}
+
+void frmSummary::cmdTotal_Click()
+{
+    const int count = figures::wholeRows(NumSrSE);
+    std::array<summary::TableRow, Rows> rows;
+    m_inWork = &txtCS;
+    for (int row = 0; row < count; ++row)
+        rows[static_cast<std::size_t>(row)] = readRow(row);
+    m_inWork = &txtSDC;
+    addRows({rows.data(), static_cast<std::size_t>(count)});
+
+    setText(txtTkm(Total), picture(TotKm, "#####.##"));
+    setText(txtTR(Total), picture(TotTR, "#####.##"));
+    setText(txtM(Total), picture(TotM, "#####.##"));
+    setText(txtS(Total), picture(TotS, "#####.##"));
+    setText(txtTMan(Total), picture(TotTMan, "#####.##"));
+    setText(txtCS(Total), picture(TotCS, "#####.##"));
+    setText(txtKey(Total), picture(TotKey, "#####"));
+    setText(txtLR(Total), picture(TotLR, "#####"));
+    setText(txtSS(Total), picture(TotSS, "#####"));
+    setText(txtSDC(Total), picture(TotSDC, "#####"));
+    setText(txtEx(Total), picture(TotEx, "#####"));
+
+    cmdPrint.setEnabled(true);
+    cmdPrint.setFocus();
+    markNext(&cmdPrint);
+    cmdExit.setEnabled(true);
+    cmdExit.setVisible(true);
+    cmdTotal.setVisible(false);
+}
+
+void frmSummary::printed()
+{
+    DataScreen::printed();
+    cmdExit.setFocus();
+    markNext(&cmdExit);
+}
+
+void frmSummary::cmdExit_Click()
+{
+    if (mayLeave())
+        chain.end();
+}

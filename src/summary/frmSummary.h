@@ -1,0 +1,101 @@
+#pragma once
+#include <array>
+
+#include "screens/flow/data_screen.h"
+#include "summary/strength.h"
+
+/// The division: one row for each Sr SE, its strength against the sanctioned posts, and the totals. The last screen of
+/// the chain; it stays while the others come and go with each Sr SE, so it asks the chain for them when it reads them.
+class frmSummary : public flow::DataScreen {
+public:
+    static constexpr int MostSrSes = 15;
+    static constexpr int Total = MostSrSes;  ///< the row of totals
+    static constexpr int Rows = MostSrSes + 1;
+
+    explicit frmSummary(flow::Chain& chain);
+
+    /// Number of Sr SEs. txtRly: 0 railway, 1 division, 2 date.
+    controls::TextBox txtSSN{"txtSSN"};
+
+    // The table. The total row's place is kept in the property "Top" of its boxes, in twips.
+    controls::ControlArray<controls::TextBox> txtSN{"txtSN", Rows};      ///< index
+    controls::ControlArray<controls::TextBox> txtSSE{"txtSSE", Rows};    ///< Sr SE
+    controls::ControlArray<controls::TextBox> txtTkm{"txtTkm", Rows};    ///< total km
+    controls::ControlArray<controls::TextBox> txtTR{"txtTR", Rows};      ///< mandays for 'T'+'R'
+    controls::ControlArray<controls::TextBox> txtM{"txtM", Rows};        ///< mandays for 'M'
+    controls::ControlArray<controls::TextBox> txtS{"txtS", Rows};        ///< mandays for 'S'
+    controls::ControlArray<controls::TextBox> txtTMan{"txtTMan", Rows};  ///< all mandays
+    controls::ControlArray<controls::TextBox> txtKey{"txtKey", Rows};    ///< mates and keymen
+    controls::ControlArray<controls::TextBox> txtLR{"txtLR", Rows};      ///< leave reserve
+    controls::ControlArray<controls::TextBox> txtCS{"txtCS", Rows};      ///< calculated strength
+    controls::ControlArray<controls::TextBox> txtSS{"txtSS", Rows};      ///< sanctioned strength
+    controls::ControlArray<controls::TextBox> txtSDC{"txtSDC", Rows};    ///< sanctioned decasualised posts
+    controls::ControlArray<controls::TextBox> txtEx{"txtEx", Rows};      ///< excess, or with a minus sign shortage
+
+    controls::Button cmdTransfer{"cmdTransfer", "&Transfer"};
+    controls::Button cmdCompute{"cmdCompute", "&Compute"};
+    controls::Button cmdTotal{"cmdTotal", "&Grand Total"};
+    controls::Button cmdExit{"cmdExit", "&Exit"};
+
+    double NumSrSE = 0.0;        ///< Sr SEs in the table, 15 at most
+    double SrSEIndex = 0.0;      ///< of the Sr SE transferred last; its row is the index - 1
+    std::int16_t MsgAnswer = 0;  ///< the answer to Compute's last message
+
+    // Row by row, as Compute or Grand Total has read or computed it.
+    std::array<double, Rows> RowKm{};
+    std::array<double, Rows> RowTR{};
+    std::array<double, Rows> RowM{};
+    std::array<double, Rows> RowS{};
+    std::array<double, Rows> RowTMan{};
+    std::array<double, Rows> RowKey{};
+    std::array<double, Rows> RowLR{};  ///< Compute takes the mates and keymen once more, Grand Total the leave reserve
+    std::array<float, Rows> RowCS{};
+    std::array<double, Rows> RowSS{};
+    std::array<double, Rows> RowSDC{};
+    std::array<double, Rows> RowEx{};
+
+    // Totals, for as long as the screen stays: every Grand Total adds to them.
+    double TotKm = 0.0;
+    double TotTR = 0.0;
+    double TotM = 0.0;
+    double TotS = 0.0;
+    double TotTMan = 0.0;
+    float TotCS = 0.0F;
+    double TotKey = 0.0;
+    double TotLR = 0.0;
+    double TotSS = 0.0;
+    std::int16_t TotSDC = 0;
+    double TotEx = 0.0;
+
+    QWidget* firstBox() override;
+
+protected:
+    void printed() override;
+
+private:
+    void txtSSN_Change();
+    void cmdTransfer_Click();
+    void cmdCompute_Click();
+    void cmdTotal_Click();
+    void cmdExit_Click();
+
+    QWidget* boxOf(const figures::RunTimeError& error) override { return &(*m_inWork)(error.row()); }
+
+    using Column = controls::ControlArray<controls::TextBox>;
+    std::array<const Column*, 13> columns() const;
+
+    void layOut();
+    controls::RowSheet* table();
+    void showRow(int row);
+    void markShortage(int row);
+    void typedByHand(int row);
+    int row() const;
+    void nextSrSe();
+    void lastSrSe();
+    summary::TableRow readRow(int row);
+    void addRows(std::span<const summary::TableRow> rows);
+
+    controls::RowSheet* m_table = nullptr;
+    const Column* m_inWork = &txtTR;  // the column in which a failing computation names its row
+    int m_rowToFill = -1;             // the row whose Transfer found no establishment figures
+};

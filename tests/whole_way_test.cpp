@@ -1,0 +1,238 @@
+// The sample division, worked as a user works it, screen by screen with keys and clicks. What the screens must show
+// was worked out apart from the program: expected/README.md tells how.
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <array>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include "activities/misc/frmM1.h"
+#include "activities/misc/frmM2.h"
+#include "activities/site/frmS1.h"
+#include "activities/site/frmS2.h"
+#include "screens/flow/frmStart.h"
+#include "summary/frmSummary.h"
+#include "support/screen_test.h"
+#include "track/frmT1.h"
+#include "track/frmT2.h"
+#include "track/frmT4.h"
+#include "yards/frmY.h"
+
+namespace {
+
+struct SrSe {
+    const char* sample;  ///< its data file and its expected figures, without their endings
+    std::string name;
+    const char* gauge;  ///< what is clicked on the track screen
+};
+
+const std::array Division = {
+    SrSe{"1-ambapur", "Sr SE Ambapur", "optBG"},
+    SrSe{"2-eklahra", "Sr SE Eklahra", "optBG"},
+    SrSe{"3-jamunia", "Sr SE Jamunia", "chkSub"},
+    SrSe{"4-mandar-hill", "Sr SE Mandar Hill", "optMG"},
+    SrSe{"5-parasnath-ghat", "Sr SE Parasnath Ghat", "optNG"},
+};
+
+/// Of each screen the texts of its boxes by their object names.
+using Figures = std::map<std::string, std::map<std::string, std::string>>;
+
+/// Reads lines of "screen, object name, text", parted by tabs.
+Figures figuresOf(const std::string& name)
+{
+    const std::string path = std::string(CREWMARK_EXPECTED) + "/" + name + ".tsv";
+    std::ifstream file(path);
+    EXPECT_TRUE(file) << "cannot read " << path;
+    Figures figures;
+    for (std::string line; std::getline(file, line);) {
+        std::istringstream cells(line);
+        std::string screen;
+        std::string object;
+        std::string text;
+        std::getline(cells, screen, '\t');
+        std::getline(cells, object, '\t');
+        std::getline(cells, text);
+        figures[screen][object] = text;
+    }
+    return figures;
+}
+
+class WholeWay : public ScreenTest {
+protected:
+    /// How each data screen is left: printed, or with No to the question.
+    enum class Leaving { Printed, Unprinted };
+
+    /// One Sr SE, from the start screen to its row of the summary. Looks at no screen if there are no figures.
+    void walk(const SrSe& srSe, int index, int srSes, const Figures& figures, Leaving leaving)
+    {
+        m_figures = figures;
+        m_leaving = leaving;
+        proceed(srSe, srSes);
+
+        auto& t1 = nowOn<frmT1>();
+        type("txtT1(0)", "Sample Section");
+        type("txtT1(2)", "Km 0 to 100");
+        click(srSe.gauge);
+        work(t1, "cmdCopy");
+
+        work(nowOn<frmT2>(), "cmdCopy");
+        work(nowOn<frmT4>(), "");
+        work(nowOn<frmY>(), "cmdYdata", "cmdCOMPUTE");
+        work(nowOn<frmM1>(), "cmdData");
+        work(nowOn<frmM2>(), "cmdData");
+        work(nowOn<frmS1>(), "cmdData");
+        work(nowOn<frmS2>(), "cmdData");
+
+        const auto& summary = nowOn<frmSummary>();
+        click("cmdTransfer");
+        if (index < srSes)
+            dialogs.expectMessage("Proceed for Next Subordinate", "Continue for Next Sr SSE on the Division");
+        else
+            dialogs.expectMessage("Calculations for all Sr SSE's are over", "Now Total up the figures");
+        click("cmdCompute");
+        expectTexts(summary);
+    }
+
+    /// The division, Sr SE after Sr SE; the samples come round.
+    void walkDivision(int srSes, bool look)
+    {
+        on<frmStart>();
+        for (int index = 1; index <= srSes; ++index) {
+            SrSe srSe = Division.at(static_cast<std::size_t>(index - 1) % Division.size());
+            if (index > static_cast<int>(Division.size()))
+                srSe.name += " " + std::to_string(index);
+            nowOn<frmStart>();
+            EXPECT_EQ(text("txtT1(4)"), std::to_string(index));
+            walk(srSe, index, srSes, look ? figuresOf(srSe.sample) : Figures{}, Leaving::Unprinted);
+        }
+        nowOn<frmSummary>();
+        click("cmdTotal");
+    }
+
+    /// The summary behind Grand Total.
+    void expectSummary(const std::string& figures)
+    {
+        const auto& summary = nowOn<frmSummary>();
+        m_figures = figuresOf(figures);
+        expectTexts(summary);
+        expectNothingElse(summary);
+    }
+
+private:
+    /// The start screen: the division's facts are typed once, they are locked from the second Sr SE on.
+    void proceed(const SrSe& srSe, int srSes)
+    {
+        const auto& start = nowOn<frmStart>();
+        if (!locked("txtT1(5)")) {
+            type("txtT1(5)", "Sample Railway");
+            type("txtT1(2)", "Sample Division");
+            type("txtT1(3)", std::to_string(srSes));
+        }
+        type("txtT1(0)", srSe.name);
+        dialogs.expectFile(sample(std::string(srSe.sample) + ".mdb"));
+        click("cmdFile");
+        expectTexts(start);
+        click("cmdProceed");
+    }
+
+    /// The data screen in front: import, Compute, look, and on to the next.
+    void work(const flow::DataScreen& form, const std::string& import, const std::string& compute = "cmdCompute")
+    {
+        if (!import.empty())
+            click(import);
+        click(compute);
+        expectTexts(form);
+        expectNothingElse(form);
+        if (m_leaving == Leaving::Printed) {
+            const std::string pdf = m_prints.filePath(form.objectName()).toStdString();
+            dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 1}, pdf);
+            click("cmdPrint");
+            EXPECT_EQ(pagesOf(pdf), 1) << form.objectName().toStdString();
+        } else {
+            expectPrintQuestion(false);
+        }
+        click("cmdNext");
+    }
+
+    void expectTexts(const QWidget& form)
+    {
+        const std::string screen = form.objectName().toStdString();
+        if (m_figures.empty())
+            return;
+        ASSERT_TRUE(m_figures.contains(screen)) << "no figures of " << screen;
+        for (const auto& [object, expected] : m_figures.at(screen))
+            EXPECT_EQ(text(object), expected) << screen << "." << object;
+    }
+
+    /// All other boxes are hidden or empty, the date apart.
+    void expectNothingElse(const QWidget& form)
+    {
+        const std::string screen = form.objectName().toStdString();
+        if (m_figures.empty())
+            return;
+        const auto look = [&](const QWidget& box, const QString& shown) {
+            const std::string object = box.objectName().toStdString();
+            if (object.empty() || object == "txtRly(2)" || box.isHidden() || shown.isEmpty())
+                return;
+            EXPECT_TRUE(m_figures[screen].contains(object))
+                << screen << "." << object << " shows " << shown.toStdString();
+        };
+        for (const auto* box : form.findChildren<QLineEdit*>())
+            look(*box, box->text());
+        for (const auto* box : form.findChildren<QComboBox*>())
+            look(*box, box->currentText());
+    }
+
+    QTemporaryDir m_prints;
+    Figures m_figures;
+    Leaving m_leaving = Leaving::Unprinted;
+};
+
+class OneSrSe : public WholeWay, public testing::WithParamInterface<std::size_t> {};
+
+TEST_P(OneSrSe, EveryTextIsAsWorkedOut)
+{
+    const SrSe& srSe = Division.at(GetParam());
+    const int index = static_cast<int>(GetParam()) + 1;
+    on<frmStart>().txtT1(4).setText(QString::number(index));  // as the summary of the Sr SE before leaves it
+    walk(srSe, index, static_cast<int>(Division.size()), figuresOf(srSe.sample), Leaving::Printed);
+}
+
+INSTANTIATE_TEST_SUITE_P(Division, OneSrSe, testing::Range(std::size_t{0}, Division.size()), [](const auto& tested) {
+    std::string name = Division.at(tested.param).name;
+    std::erase(name, ' ');
+    return name;
+});
+
+TEST_F(WholeWay, ADivisionOfFiveAddsUpAsWorkedOut)
+{
+    walkDivision(5, true);
+    expectSummary("division");
+}
+
+TEST_F(WholeWay, ADivisionOfFifteenAddsUpAsWorkedOut)
+{
+    walkDivision(15, false);
+    expectSummary("division-15");
+}
+
+TEST_F(WholeWay, ExitEndsThePrintedDivision)
+{
+    walkDivision(1, false);
+    const QTemporaryDir prints;
+    const std::string pdf = prints.filePath("frmSummary").toStdString();
+    dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 1}, pdf);
+    click("cmdPrint");
+    EXPECT_EQ(pagesOf(pdf), 1);
+    click("cmdExit");
+
+    EXPECT_FALSE(chain.isLoaded<frmStart>());
+    EXPECT_FALSE(chain.isLoaded<frmT1>());
+    EXPECT_FALSE(chain.isLoaded<frmS2>());
+    EXPECT_FALSE(chain.isLoaded<frmSummary>());
+}
+
+}  // namespace
