@@ -1,6 +1,5 @@
 #include "division.h"
 
-#include <QDir>
 #include <QFile>
 #include <array>
 #include <cstdio>
@@ -121,7 +120,7 @@ void Worker::enter(const SrSe& srSe, int index)
         m_hands.type("txtT1(3)", QString::number(m_division.srSes));
     }
     m_hands.type("txtT1(0)", srSe.name + round);
-    m_dialogs.nextFile = QDir(m_division.samples).absoluteFilePath(QString(srSe.file) + ".mdb");
+    m_dialogs.nextFile = m_division.samples + "/" + srSe.file + ".mdb";
     press("cmdFile");
     tell(m_hands.text("txtT1(0)"));
     photograph("computed");

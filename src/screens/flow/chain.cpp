@@ -139,10 +139,8 @@ void Chain::bringForward(Screen& screen, const Screen* before)
         screen.move(std::clamp(place.x(), room.left(), room.left() + std::max(0, slack.width())),
                     std::clamp(place.y(), room.top(), room.top() + std::max(0, slack.height())));
     }
-    if (screen.isMinimized())
-        screen.showNormal();
-    else
-        screen.show();
+    screen.setWindowState(screen.windowState() & ~Qt::WindowMinimized);
+    screen.show();
     screen.raise();
     screen.activateWindow();
     if (first && screen.firstBox())

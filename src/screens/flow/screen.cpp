@@ -1,5 +1,6 @@
 #include "screens/flow/screen.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QPrinter>
 #include <exception>
@@ -33,8 +34,15 @@ void Screen::Timer1_Timer(const QString& date)
         txtRly(2).setText(date);
 }
 
+bool Screen::boxIsOpen()
+{
+    return QApplication::activeModalWidget();
+}
+
 void Screen::cmdPrint_Click()
 {
+    if (boxIsOpen())
+        return;
     try {
         QPrinter printer;
         const auto choice = chain.dialogs().print(*this, printer);

@@ -60,6 +60,17 @@ protected:
     /// Marks the button that the user is to press next, as long as it is enabled, and no other.
     void markNext(const QPushButton* button);
 
+    /// The handler runs unless a box waits for an answer: a press that a mnemonic, a tool or a screen reader sends a
+    /// moment late would otherwise work on a screen whose own handler is half-way.
+    template <class Form>
+    void onClick(controls::Button& button, void (Form::*handler)())
+    {
+        connect(&button, &QAbstractButton::clicked, this, [this, handler] {
+            if (!boxIsOpen())
+                guard([&] { (static_cast<Form*>(this)->*handler)(); });
+        });
+    }
+
     template <class Form>
     void onClick(QAbstractButton& button, void (Form::*handler)())
     {
@@ -83,6 +94,7 @@ protected:
     controls::FormLayout layout;
 
 private:
+    static bool boxIsOpen();
     void report(const figures::RunTimeError& error);
 };
 

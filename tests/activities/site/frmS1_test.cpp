@@ -80,9 +80,12 @@ TEST_F(FirstSiteScreen, LoadsWithEmptyLengthsAndResults)
 TEST_F(FirstSiteScreen, BoxesAreNamedAfterActivityAndTracks)
 {
     open<frmS1>();
-    EXPECT_EQ(find("txtTB(5)").accessibleName().toStdString(), "Number of Tracks-, tracks 2");
-    EXPECT_EQ(find("txtND(1)").accessibleName().toStdString(), "Length of Tunnel in Metres-, tracks 2");
-    EXPECT_EQ(find("txtND(7)").accessibleName().toStdString(), "Length of Bridges in Metres-, tracks 4");
+    EXPECT_EQ(find("txtTB(5)").accessibleName().toStdString(),
+              "Number of Tracks-, tracks 2, S.2- Bridge Substructure Maintenance-");
+    EXPECT_EQ(find("txtND(1)").accessibleName().toStdString(),
+              "Length of Tunnel in Metres-, tracks 2, S.1- Tunnel Maintenance -");
+    EXPECT_EQ(find("txtND(7)").accessibleName().toStdString(),
+              "Length of Bridges in Metres-, tracks 4, S.2- Bridge Substructure Maintenance-");
     EXPECT_EQ(find("txtMan12").accessibleName().toStdString(), "Calculated Mandays -, S.3- Long Girder Maintenance -");
     EXPECT_EQ(find("txtND(12)").accessibleName().toStdString(),
               "Total Length of Curves in Kms sharper than 3 Degrees on BG and 6 Degrees on MG (NG Track does not need "
@@ -300,7 +303,8 @@ TEST_F(FirstSiteScreen, ALengthBeyondASingleIsAnOverflowAndShowsNothing)
     frmS1& form = open<frmS1>();
     type("txtND(0)", "1000");
     type("txtND(6)", "1e39");  // the largest single is 3.4e38
-    dialogs.expectCriticalWith(Title, "Overflow: Length of Bridges in Metres-, tracks 3 is ");
+    dialogs.expectCriticalWith(
+        Title, "Overflow: Length of Bridges in Metres-, tracks 3, S.2- Bridge Substructure Maintenance- is ");
     click("cmdCompute");
     EXPECT_EQ(focus(), "txtND(6)");
     EXPECT_EQ(results(), "|||");

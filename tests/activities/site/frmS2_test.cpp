@@ -89,7 +89,7 @@ TEST_F(SecondSiteScreen, BoxesAreNamedAfterActivityAndPlace)
               "Length of Track with poor Visibility in the gang--, gang 1");
     EXPECT_EQ(find("txtND(25)").accessibleName().toStdString(), "Length of the gang length--, gang 9");
     EXPECT_EQ(find("txtND(28)").accessibleName().toStdString(),
-              "Total mandays actually utilised in the past 3 years for this duty-, year 3");
+              "Total mandays actually utilised in the past 3 years for this duty-, year 3, S.7-Fogsignal man duty-");
     EXPECT_EQ(find("txtND(37)").accessibleName().toStdString(), "No of Shifts required-, location 6");
     EXPECT_EQ(find("txtND(38)").accessibleName().toStdString(), "No of days required at the location-, location 1");
     EXPECT_EQ(find("txtMan17").accessibleName().toStdString(), "Calculated Mandays -, S.8-Filth Removal from Track-");

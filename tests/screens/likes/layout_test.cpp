@@ -1,0 +1,250 @@
+// How the ten screens lie in their windows. Run again under other scale factors: see CMakeLists.txt.
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionFrame>
+#include <QTableView>
+
+#include "screens/controls/caption.h"
+#include "screens/likes/ten_screens.h"
+
+namespace {
+
+std::string nameOf(const QWidget& widget)
+{
+    if (!widget.objectName().isEmpty())
+        return widget.objectName().toStdString();
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    return label ? "\"" + label->text().simplified().toStdString() + "\"" : widget.metaObject()->className();
+}
+
+/// What the user sees of a form: its labels, boxes, buttons and its grid.
+std::vector<QWidget*> partsOf(const QWidget& form)
+{
+    std::vector<QWidget*> parts;
+    for (QWidget* child : form.findChildren<QWidget*>()) {
+        const bool inner =
+            child->parentWidget()->inherits("QComboBox") || child->parentWidget()->inherits("QTableView");
+        const bool part = qobject_cast<QLineEdit*>(child) || qobject_cast<QComboBox*>(child) ||
+                          qobject_cast<QAbstractButton*>(child) || qobject_cast<QTableView*>(child) ||
+                          qobject_cast<QLabel*>(child);
+        const auto* label = qobject_cast<QLabel*>(child);
+        if (part && !inner && child->isVisible() && !(label && label->text().isEmpty()))
+            parts.push_back(child);
+    }
+    return parts;
+}
+
+QRect placeIn(const QWidget& form, const QWidget& part)
+{
+    return {part.mapTo(&form, QPoint()), part.size()};
+}
+
+QScrollArea* rowsOf(const QWidget& form)
+{
+    for (auto* area : form.findChildren<QScrollArea*>())
+        if (area->widget())
+            return area;
+    return nullptr;  // the start screen has none
+}
+
+bool inside(const QScrollArea* area, const QWidget& part)
+{
+    return area && area->widget()->isAncestorOf(&part);
+}
+
+void expectNothingOverlaps(const QWidget& form)
+{
+    const std::vector<QWidget*> parts = partsOf(form);
+    const QScrollArea* rows = rowsOf(form);
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        for (std::size_t j = i + 1; j < parts.size(); ++j) {
+            if (inside(rows, *parts[i]) != inside(rows, *parts[j]))
+                continue;  // rows scroll away under what stands below them; the areas are looked at by themselves
+            const QRect a = placeIn(form, *parts[i]);
+            const QRect b = placeIn(form, *parts[j]);
+            EXPECT_FALSE(a.intersects(b)) << nameOf(*parts[i]) << " lies over " << nameOf(*parts[j]);
+        }
+        if (!rows || inside(rows, *parts[i]))
+            continue;
+        EXPECT_FALSE(placeIn(form, *parts[i]).intersects(placeIn(form, *rows)))
+            << nameOf(*parts[i]) << " lies over the rows";
+    }
+}
+
+/// Nothing is cut off by what it stands in; what scrolls may be, by the rows' window.
+void expectNothingCut(const QWidget& form)
+{
+    for (const QWidget* part : partsOf(form)) {
+        const QWidget* around = part->parentWidget();
+        for (QRect place = part->geometry(); around; around = around->parentWidget()) {
+            EXPECT_TRUE(around->rect().contains(place)) << nameOf(*part) << " is cut off in " << nameOf(*around);
+            const auto* area =
+                qobject_cast<QScrollArea*>(around->parentWidget() ? around->parentWidget()->parentWidget() : nullptr);
+            if (around == &form || (area && area->widget() == around))
+                break;
+            place.translate(around->pos());
+        }
+    }
+}
+
+int roomForText(const QLineEdit& box)
+{
+    QStyleOptionFrame frame;
+    frame.initFrom(&box);
+    frame.lineWidth = box.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, &box);
+    const QMargins margins = box.textMargins();
+    constexpr int Inner = 2 * 2;  // the toolkit's own margin on either side
+    return box.style()->subElementRect(QStyle::SE_LineEditContents, &frame, &box).width() - margins.left() -
+           margins.right() - Inner;
+}
+
+/// Where there is room; in a narrow window the boxes of names give way.
+void expectTextsFit(const QWidget& form, QSize usual)
+{
+    for (const QWidget* part : partsOf(form)) {
+        SCOPED_TRACE(nameOf(*part));
+        if (const auto* box = qobject_cast<const QLineEdit*>(part)) {
+            if (box->objectName() == "txtT1(1)" && form.objectName() == "frmStart")
+                continue;  // a path shows its end
+            if (form.width() < usual.width() && !(box->alignment() & Qt::AlignRight))
+                continue;
+            EXPECT_LE(box->fontMetrics().horizontalAdvance(box->text()), roomForText(*box))
+                << box->text().toStdString();
+        } else if (const auto* combo = qobject_cast<const QComboBox*>(part)) {
+            EXPECT_LE(combo->fontMetrics().horizontalAdvance(combo->currentText()), roomForText(*combo->lineEdit()))
+                << combo->currentText().toStdString();
+        } else if (const auto* caption = dynamic_cast<const controls::Caption*>(part)) {
+            EXPECT_LE(caption->heightForWidth(caption->width()), caption->height()) << "lines are cut off";
+            EXPECT_LE(caption->minimumSizeHint().width(), caption->width()) << "a word is cut off";
+        } else if (qobject_cast<const QAbstractButton*>(part)) {
+            EXPECT_GE(part->width(), part->minimumSizeHint().width());
+            EXPECT_GE(part->height(), part->minimumSizeHint().height());
+        }
+    }
+}
+
+void expectNoScrolling(const QWidget& form)
+{
+    const QScrollArea* rows = rowsOf(form);
+    if (!rows)
+        return;
+    EXPECT_FALSE(rows->verticalScrollBar()->isVisible())
+        << "the rows scroll by " << rows->verticalScrollBar()->maximum();
+    EXPECT_FALSE(rows->horizontalScrollBar()->isVisible())
+        << "the rows scroll sideways by " << rows->horizontalScrollBar()->maximum();
+}
+
+/// Header and buttons stay in the window, whatever the rows do.
+void expectHeaderAndButtonsStay(const QWidget& form, QSize window)
+{
+    EXPECT_EQ(form.width(), window.width()) << "the window is wider than the desktop";
+    EXPECT_EQ(form.height(), window.height()) << "the window is higher than the desktop";
+    const QScrollArea* rows = rowsOf(form);
+    for (const QWidget* part : partsOf(form))
+        EXPECT_TRUE(inside(rows, *part) || form.rect().contains(placeIn(form, *part))) << nameOf(*part);
+}
+
+class Layout : public TenScreens {
+protected:
+    /// A desktop's room for a window, in logical pixels, less the frame.
+    static QSize windowOn(QSize desktop, double scale)
+    {
+        return QSize(static_cast<int>(desktop.width() / scale), static_cast<int>(desktop.height() / scale)) -
+               QSize(26, 78);  // a frame, a title bar and the desktop's own bar: 1366x768 leaves 1340x690
+    }
+
+    void expectWell(QSize window, bool fits)
+    {
+        sized(window);
+        for (const Step& step : steps) {
+            SCOPED_TRACE(step.form->objectName().toStdString() + " at " + std::to_string(window.width()) + "x" +
+                         std::to_string(window.height()));
+            expectNothingOverlaps(*step.form);
+            expectNothingCut(*step.form);
+            expectTextsFit(*step.form, Usual);
+            expectHeaderAndButtonsStay(*step.form, window);
+            if (fits)
+                expectNoScrolling(*step.form);
+        }
+    }
+};
+
+TEST_F(Layout, ATypicalSrSeFitsWithoutScrollingAndNothingIsCutOff)
+{
+    openEmpty();
+    expectWell(Usual, true);
+}
+
+TEST_F(Layout, WorkedTheScreensFitAsWell)
+{
+    workSample();
+    EXPECT_EQ(steps.size(), 10U);
+    expectWell(Usual, true);
+    expectWell({1894, 1002}, true);  // of 1920x1080
+}
+
+TEST_F(Layout, WithTheMostRowsTheRowsScrollAndHeaderAndButtonsStay)
+{
+    openWithMostRows();
+    expectWell(Usual, false);
+    constexpr QSize low(1340, 480);
+    expectWell(low, false);
+    std::string scrolled;
+    for (const Step& step : steps) {
+        QScrollArea* rows = rowsOf(*step.form);
+        if (!rows)
+            continue;
+        SCOPED_TRACE(step.form->objectName().toStdString());
+        EXPECT_FALSE(rows->horizontalScrollBar()->isVisible());
+        QScrollBar& bar = *rows->verticalScrollBar();
+        if (bar.maximum() > 0)
+            scrolled += step.form->objectName().toStdString() + " ";
+        bar.setValue(bar.maximum());
+        settle();
+        expectHeaderAndButtonsStay(*step.form, low);
+    }
+    EXPECT_EQ(scrolled.substr(0, 18), "frmT1 frmT2 frmT4 ") << "16 segments do not fit there: " << scrolled;
+}
+
+TEST_F(Layout, OnALargerWindowTheMostRowsFitToo)
+{
+    openWithMostRows();
+    expectWell({1894, 1002}, true);
+}
+
+/// What the desktop's scaling leaves of the room: the rows scroll, the rest stays whole.
+class ScaledLayout : public Layout, public testing::WithParamInterface<double> {};
+
+class LargeDesktop : public ScaledLayout {};
+
+TEST_P(LargeDesktop, HeaderAndButtonsStayWhole)
+{
+    workSample();
+    expectWell(windowOn({1920, 1080}, GetParam()), GetParam() < 1.5);
+}
+
+class SmallDesktop : public ScaledLayout {};  // doubled, 1366x768 leaves no more than 683x384
+
+TEST_P(SmallDesktop, HeaderAndButtonsStayWhole)
+{
+    workSample();
+    expectWell(windowOn({1366, 768}, GetParam()), false);
+}
+
+std::string percent(const testing::TestParamInfo<double>& tested)
+{
+    return std::to_string(static_cast<int>(tested.param * 100));
+}
+
+INSTANTIATE_TEST_SUITE_P(Percent, LargeDesktop, testing::Values(1.25, 1.5, 2.0), percent);
+INSTANTIATE_TEST_SUITE_P(Percent, SmallDesktop, testing::Values(1.25, 1.5), percent);
+
+}  // namespace
