@@ -1,13 +1,34 @@
 #include <QApplication>
+#include <QFile>
 #include <QIcon>
+#include <QTemporaryDir>
+#include <optional>
 
 #include "compose.h"
 #include "screens/flow/chain.h"
 #include "screens/flow/end_requests.h"
 #include "screens/flow/frmStart.h"
 
+namespace {
+
+// Where the session has no folder for sockets, the toolkit makes one in /tmp and leaves it there. This one goes again.
+class RuntimeFolder {
+public:
+    RuntimeFolder()
+    {
+        if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+            qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_ours.emplace().path()));
+    }
+
+private:
+    std::optional<QTemporaryDir> m_ours;
+};
+
+}  // namespace
+
 int main(int argc, char* argv[])
 {
+    const RuntimeFolder runtimeFolder;
     QApplication application(argc, argv);
     QApplication::setApplicationName("crewmark");
     QApplication::setDesktopFileName("crewmark");  // whose windows these are, for the desktop

@@ -191,7 +191,7 @@ std::string damaged(std::string bytes, Damage damage, Random& random)
 }
 
 struct Counts {
-    std::atomic<std::uint64_t> opened, noticed, refused, died, stopped, faults;
+    std::atomic<std::uint64_t> cut, opened, noticed, refused, died, stopped, faults;
 };
 
 /// Reads the tables of one damaged file and counts what became of them.
@@ -209,6 +209,8 @@ public:
         const Source& source = m_sources[below(random, m_sources.size())];
         const auto damage = static_cast<Damage>(below(random, DamageNames.size()));
         const std::string bytes = damaged(source.bytes, damage, random);
+        if (isCut(damage))
+            ++m_counts.cut;
         if (!m_saveAs.empty())
             std::ofstream(m_saveAs, std::ios::binary) << bytes;
 
@@ -316,11 +318,12 @@ int main(int count, char** arguments)
 
     const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
     const Counts& counts = campaign.counts();
-    std::printf("%llu files in %.1f s; tables: %llu opened, %llu opened with a notice, %llu refused, "
-                "%llu killed the reader, %llu stopped by its limits; %llu faults\n",
-                static_cast<unsigned long long>(files), seconds, static_cast<unsigned long long>(counts.opened),
-                static_cast<unsigned long long>(counts.noticed), static_cast<unsigned long long>(counts.refused),
-                static_cast<unsigned long long>(counts.died), static_cast<unsigned long long>(counts.stopped),
-                static_cast<unsigned long long>(counts.faults));
+    std::printf(
+        "%llu files, %llu of them cut short, in %.1f s; tables: %llu opened, %llu opened with a notice, %llu refused, "
+        "%llu killed the reader, %llu stopped by its limits; %llu faults\n",
+        static_cast<unsigned long long>(files), static_cast<unsigned long long>(counts.cut), seconds,
+        static_cast<unsigned long long>(counts.opened), static_cast<unsigned long long>(counts.noticed),
+        static_cast<unsigned long long>(counts.refused), static_cast<unsigned long long>(counts.died),
+        static_cast<unsigned long long>(counts.stopped), static_cast<unsigned long long>(counts.faults));
     return counts.faults == 0 ? 0 : 1;
 }

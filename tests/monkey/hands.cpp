@@ -39,6 +39,14 @@ Hands::~Hands() = default;
 
 void Hands::act()
 {
+    m_mnemonic = false;
+    chooseAndAct();
+    if (m_mnemonic)
+        QTest::qWait(120);  // it holds its button down for a moment before it presses it
+}
+
+void Hands::chooseAndAct()
+{
     std::vector<QWidget*> visible;
     for (flow::Screen* screen : loadedOf(m_chain))
         if (screen && screen->isVisible())
@@ -317,8 +325,6 @@ void Hands::moveAWindow()
     const QPoint place(m_chance.from(-3'000, 3'000), m_chance.from(-3'000, 3'000));
     const QSize size(m_chance.from(1, 2'000), m_chance.from(1, 1'400));
     const auto tell = [&](const QString& what) { m_told = m_form->objectName() + " " + what; };
-    if (m_form->windowState() == Qt::WindowNoState)
-        m_form->resize(m_form->size() - QSize(1, 1));  // the desktop in memory restores no size but one that was set
     switch (m_chance.below(m_form->isMinimized() ? 3 : 6)) {
     case 0:
         tell("is minimised");
@@ -326,9 +332,13 @@ void Hands::moveAWindow()
     case 1:
         tell("is maximised");
         return m_form->showMaximized();
-    case 2:
+    case 2: {
         tell("is restored");
-        return m_form->showNormal();
+        // The desktop in memory forgets the place of a window that was closed meanwhile.
+        const QRect normal = m_form->normalGeometry().isEmpty() ? m_form->geometry() : m_form->normalGeometry();
+        m_form->showNormal();
+        return m_form->setGeometry(normal);
+    }
     case 3:
         tell(QString("is moved to %1,%2").arg(place.x()).arg(place.y()));
         return m_form->move(place);
@@ -359,6 +369,7 @@ void Hands::askToEnd()
 
 void Hands::key(int key, Qt::KeyboardModifiers modifiers, const QString& text)
 {
+    m_mnemonic = m_mnemonic || (modifiers & Qt::AltModifier);
     if (window())
         QTest::sendKeyEvent(QTest::Click, window(), static_cast<Qt::Key>(key), text, modifiers);
 }

@@ -16,7 +16,7 @@ public:
     Hands(Chance& chance, flow::Chain& chain, Answers& answers);
     ~Hands();
 
-    /// One act.
+    /// One act, with all that it sets off.
     void act();
 
     /// What the last act was, for the log.
@@ -25,6 +25,7 @@ public:
     QWidget* workedOn() const { return m_form; }
 
 private:
+    void chooseAndAct();
     void goOn();
     void pressAButton();
     void clickAnywhere();
@@ -50,6 +51,7 @@ private:
     Answers& m_answers;
     QWidget* m_form = nullptr;
     QString m_told;
+    bool m_mnemonic = false;  ///< the act had a key with Alt
 };
 
 }  // namespace monkey

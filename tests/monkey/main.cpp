@@ -96,7 +96,6 @@ bool step(Run& run, Tally& tally, bool log)
     if (log)
         std::fflush(stdout);
 
-    // A mnemonic presses its button a moment later: what happens from here on belongs to the next step.
     run.answers.given.clear();
     warnings.clear();
     run.watch.before();

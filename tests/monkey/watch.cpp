@@ -161,6 +161,9 @@ std::vector<std::string> Watch::after(const QWidget* workedOn)
     checkCounts(now);
     checkPrinted(now);
     checkAsked(now);
+    if (!m_wrong.empty())
+        for (const QString& button : m_pressed)
+            m_wrong.push_back("  pressed: " + button.toStdString());
     return m_wrong;
 }
 

@@ -1,0 +1,127 @@
+// A whole Sr SE is worked with the desktop's own boxes, from Browse to Exit. Behind it nothing lies in the house but
+// what was printed.
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "compose.h"
+#include "program/house.h"
+#include "screens/flow/chain.h"
+#include "screens/flow/frmStart.h"
+#include "summary/frmSummary.h"
+
+namespace {
+
+House* house = nullptr;
+
+/// Answers the desktop's boxes, each as soon as it stands there.
+class Clerk {
+public:
+    Clerk()
+    {
+        QObject::connect(&m_look, &QTimer::timeout, [this] { answer(); });
+        m_look.start(0);
+    }
+
+    QString dataFile;
+    int printOuts = 0;
+    int dataFiles = 0;
+    QStringList messages;
+
+private:
+    void answer()
+    {
+        QWidget* const box = QApplication::activeModalWidget();
+        if (auto* file = qobject_cast<QFileDialog*>(box)) {
+            ++dataFiles;
+            file->findChild<QLineEdit*>("fileNameEdit")->setText(dataFile);
+            QTest::keyClick(file->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+        } else if (auto* print = qobject_cast<QPrintDialog*>(box)) {
+            auto* const name = print->findChild<QLineEdit*>("filename");
+            ASSERT_NE(name, nullptr) << "no printing to a file";
+            name->setText(QString("%1/%2.pdf").arg(house->tray()).arg(++printOuts, 2, 10, QChar('0')));
+            print->accept();
+        } else if (auto* message = qobject_cast<QMessageBox*>(box)) {
+            messages += message->text();
+            message->defaultButton()->click();
+        }
+    }
+
+    QTimer m_look;
+};
+
+void press(flow::Screen& form, const char* name)
+{
+    auto* const button = form.findChild<QAbstractButton*>(name);
+    ASSERT_NE(button, nullptr) << name;
+    ASSERT_TRUE(button->isEnabled() && button->isVisible()) << form.objectName().toStdString() << "." << name;
+    button->click();
+}
+
+TEST(Traces, AWholeSrSeLeavesNothingButItsPrintOuts)
+{
+    flow::DesktopDialogs dialogs;
+    flow::Chain chain(dialogs);
+    compose(chain);
+    Clerk clerk;
+    clerk.dataFile = CREWMARK_SAMPLES "/1-ambapur.mdb";
+
+    auto& start = chain.show<frmStart>();
+    start.txtT1(3).setText("1");
+    press(start, "cmdFile");
+    press(start, "cmdPrint");
+    press(start, "cmdProceed");
+    const QList<QPair<const char*, QList<const char*>>> steps = {
+        {"frmT1", {"optBG", "cmdCopy", "cmdCompute", "cmdPrint", "cmdNext"}},
+        {"frmT2", {"cmdCopy", "cmdCompute", "cmdPrint", "cmdNext"}},
+        {"frmT4", {"cmdCompute", "cmdPrint", "cmdNext"}},
+        {"frmY", {"cmdYdata", "cmdCOMPUTE", "cmdPrint", "cmdNext"}},
+        {"frmM1", {"cmdData", "cmdCompute", "cmdPrint", "cmdNext"}},
+        {"frmM2", {"cmdData", "cmdCompute", "cmdPrint", "cmdNext"}},
+        {"frmS1", {"cmdData", "cmdCompute", "cmdPrint", "cmdNext"}},
+        {"frmS2", {"cmdData", "cmdCompute", "cmdPrint", "cmdNext"}},
+        {"frmSummary", {"cmdTransfer", "cmdCompute", "cmdTotal", "cmdPrint", "cmdExit"}}};
+    for (const auto& [form, buttons] : steps) {
+        flow::Screen* screen = nullptr;
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window->objectName() == form && window->isVisible())
+                screen = dynamic_cast<flow::Screen*>(window);
+        ASSERT_NE(screen, nullptr) << form;
+        for (const char* button : buttons)
+            press(*screen, button);
+    }
+
+    EXPECT_FALSE(chain.isLoaded<frmSummary>()) << "Exit ends the program";
+    EXPECT_EQ(clerk.dataFiles, 1);
+    EXPECT_EQ(clerk.messages.join('|').toStdString(), "Now Total up the figures");
+    EXPECT_EQ(house->contents(), "tray/01.pdf tray/02.pdf tray/03.pdf tray/04.pdf tray/05.pdf "
+                                 "tray/06.pdf tray/07.pdf tray/08.pdf tray/09.pdf tray/10.pdf");
+}
+
+}  // namespace
+
+int main(int argc, char* argv[])
+{
+    testing::InitGoogleTest(&argc, argv);
+    house = new House;
+    for (const auto& [name, value] : house->environment())
+        qputenv(name, value);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QDir::setCurrent(house->work());
+    int result = 0;
+    {
+        QApplication application(argc, argv);
+        QApplication::setQuitOnLastWindowClosed(false);
+        result = RUN_ALL_TESTS();
+    }
+    delete house;
+    return result;
+}
