@@ -20,12 +20,12 @@ QStringList dataFilesOf(const QString& folder)
 }
 
 // A box may stand on another box.
-QWidget* screenUnder(QWidget& parent)
+flow::Screen* screenUnder(QWidget& parent)
 {
     QWidget* screen = &parent;
     while (screen->parentWidget())
         screen = screen->parentWidget();
-    return screen;
+    return screen->isVisible() ? dynamic_cast<flow::Screen*>(screen) : nullptr;
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "monkey/chance.h"
 #include "screens/flow/dialogs.h"
+#include "screens/flow/screen.h"
 
 namespace monkey {
 
@@ -18,7 +19,7 @@ public:
 
     struct Given {
         Kind kind;
-        QWidget* screen;  ///< on which it was shown
+        flow::Screen* screen;  ///< on which it was shown, null if on none; it may be gone since
         QString title;
         QString text;
         bool yes = false;

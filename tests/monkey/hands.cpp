@@ -49,8 +49,11 @@ void Hands::chooseAndAct()
 {
     std::vector<QWidget*> visible;
     for (flow::Screen* screen : loadedOf(m_chain))
-        if (screen && screen->isVisible())
+        if (screen && screen->isVisible()) {
+            if (screen->size() == ForgottenSize)
+                screen->resize(1340, 690);
             visible.push_back(screen);
+        }
     if (visible.empty()) {
         m_told = "nothing to be seen";
         return;
@@ -332,13 +335,9 @@ void Hands::moveAWindow()
     case 1:
         tell("is maximised");
         return m_form->showMaximized();
-    case 2: {
+    case 2:
         tell("is restored");
-        // The desktop in memory forgets the place of a window that was closed meanwhile.
-        const QRect normal = m_form->normalGeometry().isEmpty() ? m_form->geometry() : m_form->normalGeometry();
-        m_form->showNormal();
-        return m_form->setGeometry(normal);
-    }
+        return m_form->showNormal();
     case 3:
         tell(QString("is moved to %1,%2").arg(place.x()).arg(place.y()));
         return m_form->move(place);

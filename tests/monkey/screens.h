@@ -1,4 +1,5 @@
 #pragma once
+#include <QSize>
 #include <array>
 
 #include "activities/misc/frmM1.h"
@@ -17,6 +18,9 @@ namespace monkey {
 
 /// The places of the screens in their order.
 enum Place : std::size_t { Start, T1, T2, T4, Y, M1, M2, S1, S2, Summary, Places };
+
+/// What the desktop in memory makes of a window whose size it forgot: one that was closed while it was maximised, say.
+inline constexpr QSize ForgottenSize(1, 1);
 
 /// The screens that are loaded; nullptr for the others.
 using Screens = std::array<flow::Screen*, Places>;
