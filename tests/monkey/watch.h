@@ -51,7 +51,7 @@ private:
     void checkPublished();
     void checkCounts(const Screens& now);
     void checkPrinted(const Screens& now);
-    void checkAsked();
+    void checkAsked(const Screens& now);
     void fail(const QString& what);
 
     flow::Chain& m_chain;
