@@ -316,7 +316,8 @@ void Watch::checkPublished()
         });
         const bool computed =
             pressed(screen + ".cmdCompute") || pressed(screen + ".cmdCOMPUTE") || pressed(screen + ".cmdTotal");
-        if (was != m_published.end() && m_alive[now.place] == screens[now.place] && was->value != now.value && !computed)
+        if (was != m_published.end() && m_alive[now.place] == screens[now.place] && was->value != now.value &&
+            !computed)
             fail(screen + "." + now.name + " changed without a Compute");
     }
 }

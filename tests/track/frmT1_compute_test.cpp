@@ -257,7 +257,7 @@ TEST_F(TrackCompute, TheRailIsARunningSingle)
 
 TEST_F(TrackCompute, ASegmentNumberThatIsNoneEndsTheComputeAtItsRow)
 {
-    openRows(3);
+    const frmT1& t1 = openRows(3);
     for (int i = 0; i < 3; ++i)
         limits(i, "10", "25");
     for (const char* number : {"2a", "", "1,5", "two"}) {
@@ -266,6 +266,7 @@ TEST_F(TrackCompute, ASegmentNumberThatIsNoneEndsTheComputeAtItsRow)
         click("cmdCompute");
         EXPECT_EQ(dialogs.open(), 0U) << number;
         EXPECT_EQ(texts("txtTkm", 0, 2), "15.||") << "rows are computed and shown one by one";
+        EXPECT_EQ(t1.KmFrom[1] + t1.KmTo[1], 0.0) << "the number is read before the limits";
         expectStillToCompute();
         EXPECT_EQ(focus(), "txtSS(1)");
     }
@@ -294,6 +295,7 @@ TEST_F(TrackCompute, RailWhoseSumLeavesTheRangeIsAFloatingPointError)
     click("cmdCompute");
     expectStillToCompute();
     EXPECT_EQ(t1.LwrTotal, 3e38F);
+    EXPECT_EQ(texts("txtTkm", 0, 1), ".|.") << "the row's lengths are shown before its rail is added";
     EXPECT_EQ(focus(), "txtLWR(1)");
 }
 

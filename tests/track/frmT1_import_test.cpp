@@ -199,6 +199,28 @@ TEST_F(TrackImport, OfANarrowTableKeepsWhatWasCopiedAndNamesTheMissingColumn)
     EXPECT_EQ(record(0), "1|UP|10|25|||||||Method of Maintenance");
 }
 
+// A table of so many columns ends the import where the next cell is missing: what stands left of it has been copied,
+// what stands right of it has not.
+TEST_F(TrackImport, TakesTheCellsOfARowInTheirOrder)
+{
+    // clang-format off
+    const std::vector<std::string> untouched = {"",  "",  "1", "Line", "",   "",   "",    "",     "",  "",   "",     "",  "Method of Maintenance"};
+    const std::vector<std::string> whole =     {"a", "1", "7", "UP",   "10", "25", "1.5", "12.3", "4", "12", "23.7", "3", "Machine Packed"};
+    // clang-format on
+    for (std::size_t columns = 2; columns < whole.size(); ++columns) {
+        chain.unload<frmT1>();
+        open();
+        putRecords("TrGrid", {std::vector<std::string>(whole.begin(), whole.begin() + static_cast<int>(columns))});
+        dialogs.expectCritical(Title, "Subscript out of range: column " + std::to_string(columns + 1) +
+                                          " of table TABLE is missing.");
+        import();
+        std::string expected;
+        for (std::size_t field = 2; field < whole.size(); ++field)
+            expected += (field > 2 ? "|" : "") + (field < columns ? whole : untouched)[field];
+        EXPECT_EQ(record(0), expected) << columns << " columns";
+    }
+}
+
 // Files that do not open
 
 struct Refused {
@@ -212,7 +234,7 @@ class RefusedFile : public TrackImport, public testing::WithParamInterface<Refus
 TEST_P(RefusedFile, IsToldOnceAndTheReasonStaysInTheGridsPlace)
 {
     chain.get<frmStart>().txtT1(1).setText(QString::fromStdString(fixture(GetParam().file)));
-    frmT1& t1 = chain.get<frmT1>();  // made, but not yet to be seen: no box
+    auto& t1 = chain.get<frmT1>();  // made, but not yet to be seen: no box
     settle();
     ASSERT_EQ(dialogs.open(), 0U);
 

@@ -68,6 +68,7 @@ INSTANTIATE_TEST_SUITE_P(Norms, MainLine, testing::Values(
     NormCase{"NarrowNoTraffic",        Norm::Ng,         {10.0,  0.0,  1.0F,   0.0},      1050.0,    910.0},  // 105 x 10; 91 x 10
     NormCase{"NarrowBelowItsMost",     Norm::Ng,         {10.0,  0.25, 1.0F,   5.0},      1520.0,    910.0},  // (105 + 47) x 10
     NormCase{"NarrowAtItsMost",        Norm::Ng,         {10.0,  0.5,  1.25F,  0.0},      2250.0,    910.0},  // 105 + 94 is 180; 180 x 1.25 x 10
+    NormCase{"TenthOfAKm",             Norm::BgMachine,  { 0.1,  0.0,  1.0F,   0.0},         8.0,     15.9},  // 80 x .1; 159 x .1, which no single is
     NormCase{"NoFactor",               Norm::BgManual,   {10.0,  5.0,  0.0F,   0.0},         0.0,   1680.0},  // the factor is T's alone
     NormCase{"NoLength",               Norm::BgMachine,  { 0.0,  5.0,  1.0F,   0.0},         0.0,      0.0}),
     [](const auto& tested) { return tested.param.name; });
@@ -177,6 +178,7 @@ TEST(MainLineErrors, OverflowNamesTheSegment)
 TEST(TrMandays, AddsTAndR)
 {
     EXPECT_DOUBLE_EQ(track::trMandays({.t = 759.25, .r = 1990.5}, 0), 2749.75);
+    EXPECT_DOUBLE_EQ(track::trMandays({.t = 0.1, .r = 0.2}, 0), 0.3);  // no single
 }
 
 TEST(TrTotal, AddsInOrder)

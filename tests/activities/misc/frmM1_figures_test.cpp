@@ -62,6 +62,21 @@ TEST_F(PatrollingScreen, NoneOfAllIsNothing)
     EXPECT_TRUE(enabled("cmdNext"));
 }
 
+TEST_F(PatrollingScreen, ANegativeCountIsNone)
+{
+    open(0.0F);
+    type("txtNB", "1");
+    typeBeatLength(0, {"90", "3", "2", "2"});
+    type("txtVL", "1");
+    typeLocation(0, {"30", "2"});
+    type("txtNB", "-1");
+    type("txtVL", "-1");
+    click("cmdCompute");
+
+    EXPECT_EQ(results(), "|||");
+    EXPECT_TRUE(enabled("cmdNext"));
+}
+
 // The boxes show what stood on the track screen when this one was loaded.
 TEST_F(PatrollingScreen, WeldedRailIsReadAfreshFromTheTrackScreen)
 {

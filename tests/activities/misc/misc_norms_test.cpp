@@ -38,6 +38,7 @@ INSTANTIATE_TEST_SUITE_P(BeatLengths, MonsoonPatrolling, testing::Values(
     BeatCase{"HalfMenUp",     { 10.0,  1.0,    1.0,   3.5},      40.0},   // 3.5 men are 4
     BeatCase{"HalfAMan",      { 10.0,  1.0,    1.0,   0.5},       0.0},
     BeatCase{"HalfABeat",     { 10.0,  1.0,    1.5,   1.0},      15.0},   // only the men are whole
+    BeatCase{"ADouble",       {  0.1,  3.0,    1.0,   1.0},       0.3},   // which no single is
     BeatCase{"MostMen",       {  1.0,  1.0,    1.0, 32767.0}, 32767.0},
     BeatCase{"Empty",         {  0.0,  0.0,    0.0,   0.0},       0.0}),
     [](const auto& tested) { return tested.param.name; });
@@ -169,6 +170,9 @@ INSTANTIATE_TEST_SUITE_P(Crossings, GateKeeping, testing::Values(
     GateCase{"MorePosts",     {{{1.0, 1.0}, {0.0, 2.0}, {0.0, 3.0}}},   2.0,  -223.0},   // 365 - 588: no lower limit
     GateCase{"PostsAlone",    {{{0.0, 1.0}, {0.0, 2.0}, {0.0, 3.0}}},   1.0,  -294.0},
     GateCase{"HalfAPost",     {{{0.5, 1.0}, {0.0, 2.0}, {0.0, 3.0}}},   0.5,    35.5},   // 182.5 - 147
+    // doubles, which no singles are
+    GateCase{"CrossingsDouble",{{{0.01, 1.0},{0.0, 2.0}, {0.0, 3.0}}},  0.0,     3.65},  // 365 x .01
+    GateCase{"PostsDouble",   {{{0.0, 1.0}, {0.0, 2.0}, {0.0, 3.0}}},   0.1,   -29.4},   // -294 x .1
     GateCase{"WholeShifts",   {{{1.0, 2.5}, {1.0, 3.5}, {0.0, 3.0}}},   0.0,  2190.0},   // shifts half to even: 2 + 4
     GateCase{"Nothing",       {{{0.0, 1.0}, {0.0, 2.0}, {0.0, 3.0}}},   0.0,     0.0}),
     [](const auto& tested) { return tested.param.name; });
@@ -193,6 +197,7 @@ TEST(KeymanRest, TakesTheDaysAManDoesNotWork)
     EXPECT_EQ(misc::keymanRest(1), 71.0);  // 365 - 294
     EXPECT_EQ(misc::keymanRest(4), 284.0);
     EXPECT_EQ(misc::keymanRest(0.5), 35.5);
+    EXPECT_DOUBLE_EQ(misc::keymanRest(0.1), 7.1);  // no single
     EXPECT_EQ(misc::keymanRest(0), 0.0);
     EXPECT_EQ(errorOf([] { misc::keymanRest(1e307); }).kind(), ErrorKind::Overflow);
 }
@@ -201,6 +206,7 @@ TEST(WatermanDuty, IsAManAGang)
 {
     EXPECT_EQ(misc::watermanDuty(1), 294.0);
     EXPECT_EQ(misc::watermanDuty(3), 882.0);
+    EXPECT_DOUBLE_EQ(misc::watermanDuty(0.1), 29.4);  // no single
     EXPECT_EQ(misc::watermanDuty(0), 0.0);
     EXPECT_EQ(errorOf([] { misc::watermanDuty(1e307); }).kind(), ErrorKind::Overflow);
 }

@@ -167,7 +167,8 @@ TEST(PastYears, SumBeyondASingleOverflows)
 TEST(FilthRemoval, IsAManAGang)
 {
     EXPECT_EQ(site::filthRemovalMandays(1), 294.0);
-    EXPECT_EQ(site::filthRemovalMandays(2.5), 735.0);  // 294 x 2.5: no whole gangs asked for
+    EXPECT_EQ(site::filthRemovalMandays(2.5), 735.0);        // 294 x 2.5: no whole gangs asked for
+    EXPECT_DOUBLE_EQ(site::filthRemovalMandays(0.1), 29.4);  // no single
     EXPECT_EQ(site::filthRemovalMandays(0), 0.0);
     EXPECT_EQ(errorOf([] { site::filthRemovalMandays(1e307); }).kind(), ErrorKind::Overflow);
 }
