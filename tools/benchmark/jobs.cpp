@@ -6,6 +6,8 @@
 #include <ctime>
 #include <stdexcept>
 
+#include <sys/resource.h>
+
 namespace jobs {
 
 namespace {
@@ -17,6 +19,17 @@ double now()  // [ms]
     timespec time{};
     clock_gettime(CLOCK_MONOTONIC, &time);
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) * 1e-6;
+}
+
+// Of the processes that have ended, and theirs [s].
+double workedByChildren()
+{
+    rusage used{};
+    getrusage(RUSAGE_CHILDREN, &used);
+    const auto seconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+    };
+    return seconds(used.ru_utime) + seconds(used.ru_stime);
 }
 
 QByteArray outputOf(QProcess& process, const QString& program, const QStringList& arguments)
@@ -55,11 +68,13 @@ void report(Samples& samples, const QString& prefix, const QString& program, con
             samples.add(prefix + QString::fromUtf8(words[0]), words[1].toDouble());
 }
 
-double run(const QString& program, const QStringList& arguments)
+void run(Samples& samples, const QString& figure, const QString& program, const QStringList& arguments)
 {
     const double before = now();
+    const double workedBefore = workedByChildren();
     outputOf(program, arguments);
-    return (now() - before) * 1e-3;
+    samples.add(figure, (now() - before) * 1e-3);
+    samples.add("cpu " + figure, workedByChildren() - workedBefore);
 }
 
 void figures(Samples& samples, const QString& program, bool brief)
@@ -72,7 +87,7 @@ void figures(Samples& samples, const QString& program, bool brief)
             samples.add(QString::fromUtf8(cells[0]).remove('"'), cells[3].toDouble());
 }
 
-double spreadsheet(const QString& soffice, const QString& folder)
+void spreadsheet(Samples& samples, const QString& soffice, const QString& folder)
 {
     const QString sheet = folder + "/track.csv";
     if (QFile file(sheet); file.open(QIODevice::WriteOnly)) {
@@ -82,8 +97,12 @@ double spreadsheet(const QString& soffice, const QString& folder)
                 QString("%1,%2,0.5,3,=B%3-A%3+C%3,=E%3+D%3*0.1\n").arg(row * 10).arg(row * 10 + 9).arg(row).toUtf8());
         file.write(",,,,=SUM(E1:E16),=SUM(F1:F16)\n");
     }
-    return run(soffice, {"-env:UserInstallation=file://" + folder + "/profile", "--headless", "--convert-to", "pdf",
-                         "--outdir", folder, sheet});
+    QFile::remove(folder + "/track.pdf");
+    run(samples, "spreadsheet", soffice,
+        {"-env:UserInstallation=file://" + folder + "/profile", "--headless", "--convert-to", "pdf", "--outdir", folder,
+         sheet});
+    if (!QFile::exists(folder + "/track.pdf"))
+        throw std::runtime_error("the spreadsheet made no page");
 }
 
 double installedSize(const QString& build, const QString& folder)

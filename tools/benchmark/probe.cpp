@@ -1,7 +1,6 @@
 #include "probe.h"
 
 #include <QApplication>
-#include <QBackingStore>
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QFile>
@@ -87,9 +86,8 @@ void Painting::settle(const QWidget& window)
 {
     QElapsedTimer patience;
     patience.start();
-    const auto shown = [&window] { return window.backingStore() && !window.backingStore()->size().isEmpty(); };
     int before = -1;
-    while (before != m_events || !shown()) {
+    while (before != m_events || !window.testAttribute(Qt::WA_Mapped)) {
         if (patience.hasExpired(PatienceMs))
             throw std::runtime_error(window.objectName().toStdString() + " was never painted");
         before = m_events;

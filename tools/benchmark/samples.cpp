@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <stdexcept>
 
 template <class Operation>
 void Samples::combine(const QString& figure, const QString& a, const QString& b, Operation operation)
@@ -27,7 +28,7 @@ double Samples::quantile(const QString& figure, double part) const
 {
     std::vector<double> sorted = m_values[figure];
     if (sorted.empty())
-        return std::nan("");
+        throw std::runtime_error("nothing was measured of: " + figure.toStdString());
     std::sort(sorted.begin(), sorted.end());
     const double place = part * static_cast<double>(sorted.size() - 1);
     const auto below = static_cast<std::size_t>(place);

@@ -141,6 +141,7 @@ void Chain::bringForward(Screen& screen, const Screen* before)
     }
     screen.setWindowState(screen.windowState() & ~Qt::WindowMinimized);
     screen.show();
+    screen.update();  // it may have been resting
     screen.raise();
     screen.activateWindow();
     if (first && screen.firstBox())
@@ -161,6 +162,12 @@ void Chain::tick()
     for (const Link& link : m_links)
         if (link.screen && link.screen->isVisible() && !link.screen->isMinimized())
             link.screen->Timer1_Timer(m_date);
+
+    // Ten screens stand one behind the other, and the pictures of nine would be more than all else together.
+    const Screen* const front = inFront();
+    for (const Link& link : m_links)
+        if (link.screen && link.screen.get() != front)
+            link.screen->rest();
 }
 
 }  // namespace flow

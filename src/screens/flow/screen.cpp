@@ -1,9 +1,13 @@
 #include "screens/flow/screen.h"
 
 #include <QApplication>
+#include <QBackingStore>
 #include <QCloseEvent>
 #include <QPrinter>
+#include <QWindow>
 #include <exception>
+
+#include <malloc.h>
 
 #include "figures/conversions.h"
 #include "screens/controls/entry.h"
@@ -32,6 +36,22 @@ void Screen::Timer1_Timer(const QString& date)
 {
     if (txtRly(2).text() != date)
         txtRly(2).setText(date);
+}
+
+void Screen::rest()
+{
+    if (!backingStore() || backingStore()->size().isEmpty())
+        return;
+    backingStore()->resize(QSize(0, 0));
+    windowHandle()->installEventFilter(this);
+    malloc_trim(0);  // the C library would keep it for the next picture
+}
+
+bool Screen::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == windowHandle() && event->type() == QEvent::Expose && backingStore()->size().isEmpty())
+        update();  // the toolkit would take what it has for painted
+    return QWidget::eventFilter(watched, event);
 }
 
 bool Screen::boxIsOpen()

@@ -24,6 +24,10 @@ public:
     /// Once, when the screen has first been shown.
     virtual void opened() {}
 
+    /// Gives back the picture that the toolkit keeps of the window, 4 bytes a point. What the user sees stays; the
+    /// whole window is painted anew when a covered part of it is uncovered or anything on it changes.
+    void rest();
+
     /// Where the user starts on this screen.
     virtual QWidget* firstBox() = 0;
 
@@ -89,6 +93,7 @@ protected:
     void addDate(QBoxLayout& line);
 
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     Chain& chain;
     controls::FormLayout layout;

@@ -1,7 +1,10 @@
 // An idle program is idle: nothing is painted while nothing changes.
 
 #include <QApplication>
+#include <QBackingStore>
+#include <QExposeEvent>
 #include <QTest>
+#include <QWindow>
 #include <map>
 
 #include "screens/likes/ten_screens.h"
@@ -51,6 +54,72 @@ TEST_F(TenScreens, PaintNothingWhileNothingChanges)
     QTest::qWait(100);
     EXPECT_GT(paints.total(), 0) << "a change is painted";
     QApplication::setCursorFlashTime(blinking);
+}
+
+// A picture is 1340 x 690 points of 4 bytes.
+class PicturesOfScreens : public TenScreens {
+protected:
+    static constexpr QSize None{0, 0};
+
+    static QSize picture(const QWidget& screen) { return screen.backingStore()->size(); }
+
+    void openTwo()
+    {
+        begin<frmStart>("", "");
+        begin<frmT1>("cmdCopy", "cmdCompute");
+        steps.back().form->activateWindow();
+        QTest::qWait(250);  // two ticks of the clock
+    }
+
+    flow::Screen& behind() { return chain.get<frmStart>(); }
+    flow::Screen& inFront() { return chain.get<frmT1>(); }
+};
+
+TEST_F(PicturesOfScreens, AreKeptOfTheOneInFrontAlone)
+{
+    openTwo();
+    EXPECT_TRUE(behind().isVisible());
+    EXPECT_EQ(picture(behind()), None);
+    EXPECT_EQ(picture(inFront()), inFront().size());
+
+    behind().activateWindow();
+    behind().update();
+    QTest::qWait(250);
+    EXPECT_EQ(picture(behind()), behind().size());
+    EXPECT_EQ(picture(inFront()), None);
+}
+
+TEST_F(PicturesOfScreens, ArePaintedAnewWhenAScreenBehindIsUncovered)
+{
+    openTwo();
+    const PaintCount paints;
+    QExposeEvent uncovered(QRect(0, 0, 100, 10));  // a strip of it
+    QApplication::sendEvent(behind().windowHandle(), &uncovered);
+    EXPECT_EQ(picture(behind()), behind().size());
+    EXPECT_GE(paints.total(), behind().findChildren<QLineEdit*>().size()) << "all of it, not the strip alone";
+
+    QTest::qWait(250);
+    EXPECT_EQ(picture(behind()), None) << "and rests again";
+}
+
+TEST_F(PicturesOfScreens, ArePaintedAnewWhenAScreenBehindChanges)
+{
+    openTwo();
+    const PaintCount paints;
+    chain.get<frmStart>().txtT1(0).setText("somebody else");
+    QTRY_VERIFY_WITH_TIMEOUT(paints.total() > 0, 1000);
+    EXPECT_GE(paints.total(), behind().findChildren<QLineEdit*>().size()) << "all of it, not the box alone";
+}
+
+TEST_F(PicturesOfScreens, AreBackWhenAHiddenScreenIsShownAgain)
+{
+    openTwo();
+    inFront().close();
+    QTest::qWait(250);
+    EXPECT_EQ(picture(inFront()), None);
+    chain.show<frmT1>();
+    QTest::qWait(50);
+    EXPECT_EQ(picture(inFront()), inFront().size());
 }
 
 }  // namespace
