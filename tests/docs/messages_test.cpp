@@ -129,7 +129,7 @@ std::string remarkOn(const QString& typed)
 /// Texts that the program puts together from parts, as it says them.
 std::vector<std::string> composedTexts()
 {
-    constexpr float Huge = std::numeric_limits<float>::max();
+    constexpr float huge = std::numeric_limits<float>::max();
     const store::Asked asked{.file = "1-ambapur.mdb", .table = "TR"};
     const store::Table table("TR", {"ID", "NSEG"});
     const site::GangLength tiny{.poorVisibilityKm = 1.0F, .lengthKm = 1e-45F};
@@ -147,8 +147,8 @@ std::vector<std::string> composedTexts()
         saidBy([&] {
             site::lookOutMandays({&tiny, 1});
         }),
-        saidBy([] { track::addWeldedRail(Huge, Huge, 0); }),
-        saidBy([] { track::ngMandays({.eqLengthKm = 1.0, .gmt = 1.0, .factor = Huge, .concreteKm = 0.0}, 0); }),
+        saidBy([] { track::addWeldedRail(huge, huge, 0); }),
+        saidBy([] { track::ngMandays({.eqLengthKm = 1.0, .gmt = 1.0, .factor = huge, .concreteKm = 0.0}, 0); }),
         remarkOn("13"),
         remarkOn("3km"),
     };

@@ -126,7 +126,7 @@ TEST_F(SummaryScreen, AnOverflowNamesTheSrSeAndShowsNothing)
 
 TEST_F(SummaryScreen, AfterAnSrSeThatIsNotTheLastTheStartScreenTakesTheNext)
 {
-    frmStart& start = on<frmStart>();
+    auto& start = on<frmStart>();
     start.txtT1(4).setText("3");
     const frmSummary& form = open("5");
     work("3", {"10000", "2000", "1000"}, {"10", "3", "40", "5"});
@@ -154,7 +154,7 @@ TEST_F(SummaryScreen, AfterAnSrSeThatIsNotTheLastTheStartScreenTakesTheNext)
 TEST_F(SummaryScreen, TheNextSrSeFindsEmptyScreens)
 {
     open("2");
-    frmT1& t1 = chain.get<frmT1>();
+    auto& t1 = chain.get<frmT1>();
     t1.txtT1(0).setText("Section of the first");
     t1.txtTkm(0).setText("37.7");
     t1.LwrTotal = 114.4F;

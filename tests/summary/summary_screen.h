@@ -26,7 +26,7 @@ protected:
     /// In a division of so many Sr SEs.
     frmSummary& open(const std::string& number)
     {
-        frmStart& start = chain.get<frmStart>();
+        auto& start = chain.get<frmStart>();
         start.txtT1(5).setText("Sample Railway");
         start.txtT1(2).setText("Sample Division");
         start.txtT1(3).setText(QString::fromStdString(number));

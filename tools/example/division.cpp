@@ -166,12 +166,12 @@ void printTable(const frmSummary& summary, int srSes)
                                 &summary.txtSS, &summary.txtSDC,  &summary.txtEx};
     constexpr std::array headings = {"No",     "Sr SE", "Km",       "T+R",    "M",      "S",  "Mandays",
                                      "Keymen", "LR",    "Strength", "Sanctd", "Decas.", "+/-"};
-    constexpr int Total = 15;
+    constexpr int total = 15;
     std::printf("\n");
     for (int row = -1; row <= srSes; ++row) {
         for (std::size_t c = 0; c < columns.size(); ++c) {
             const bool name = columns[c] == &summary.txtSSE;
-            const QString text = row < 0 ? QString(headings[c]) : (*columns[c])(row == srSes ? Total : row).text();
+            const QString text = row < 0 ? QString(headings[c]) : (*columns[c])(row == srSes ? total : row).text();
             std::printf("%s ", (name ? text.leftJustified(24) : text.rightJustified(9)).toUtf8().constData());
         }
         std::printf("\n");

@@ -19,10 +19,10 @@ protected:
     template <class Form>
     Form& open(const std::string& path = "")
     {
-        frmStart& start = chain.get<frmStart>();
+        auto& start = chain.get<frmStart>();
         start.txtT1(0).setText("Sr SE Ambapur");
         start.txtT1(1).setText(QString::fromStdString(path));
-        frmT1& t1 = chain.get<frmT1>();
+        auto& t1 = chain.get<frmT1>();
         t1.txtT1(0).setText("Sample Section");
         t1.txtT1(2).setText("Km 0 to 100");
         t1.txtT1(3).setText("MG");

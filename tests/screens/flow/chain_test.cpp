@@ -60,7 +60,7 @@ TEST_F(ChainTest, XHidesAScreenAndKeepsItsContents)
     dialogs.expectFile("");
     click("cmdFile");
     click("cmdProceed");
-    frmT1& t1 = nowOn<frmT1>();
+    auto& t1 = nowOn<frmT1>();
     type("txtT1(0)", "Sample Section");
     EXPECT_TRUE(t1.close());
     EXPECT_FALSE(t1.isVisible());
@@ -80,7 +80,7 @@ TEST_F(ChainTest, XOnTheLastScreenWithNothingEnteredEndsTheProgram)
 TEST_F(ChainTest, XOnTheLastScreenAsksOnceAnythingHasBeenEntered)
 {
     for (const char* box : {"txtT1(5)", "txtT1(2)", "txtT1(3)", "txtT1(0)"}) {
-        frmStart& start = on<frmStart>();
+        auto& start = on<frmStart>();
         type(box, "5");
         expectEndQuestion(false);
         EXPECT_FALSE(start.close()) << box;
@@ -107,9 +107,9 @@ TEST_F(ChainTest, XOnTheLastScreenCountsTheFiguresOfHiddenScreensToo)
 
 TEST_F(ChainTest, AMinimizedScreenIsNoHiddenOne)
 {
-    frmStart& start = on<frmStart>();
+    auto& start = on<frmStart>();
     type("txtT1(5)", "Sample Railway");
-    frmT1& t1 = on<frmT1>();
+    auto& t1 = on<frmT1>();
     start.showMinimized();
     settle();
     EXPECT_TRUE(t1.close());  // no question: the start screen is still there
@@ -136,7 +136,7 @@ TEST_F(ChainTest, ScreensOpenWithinTheDesktop)
 
 TEST_F(ChainTest, TheNextScreenOpensWhereTheUserHasPutTheOneBefore)
 {
-    frmStart& start = on<frmStart>();
+    auto& start = on<frmStart>();
     const int centred = start.y();
     start.move(start.x(), 4);
     ASSERT_NE(centred, 4);
@@ -155,7 +155,7 @@ TEST_F(ChainTest, TheNextScreenOpensWhereTheUserHasPutTheOneBefore)
 
 TEST_F(ChainTest, AScreenShownAgainComesToTheFrontWhereItWas)
 {
-    frmStart& start = on<frmStart>();
+    auto& start = on<frmStart>();
     on<frmT1>();
     start.move(7, 9);
     start.resize(start.minimumSizeHint());

@@ -45,7 +45,7 @@ TEST_F(EndRequestsTest, ASignalEndsTheProgramWithoutAQuestionWhileNothingIsEnter
 TEST_F(EndRequestsTest, ASignalAsksOnceAnythingHasBeenEntered)
 {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
-        frmStart& start = on<frmStart>();
+        auto& start = on<frmStart>();
         type("txtT1(5)", "Sample Railway");
         dialogs.expectYesNo(StartTitle, Question, false);
         send(signal);
@@ -60,8 +60,8 @@ TEST_F(EndRequestsTest, ASignalAsksOnceAnythingHasBeenEntered)
 
 TEST_F(EndRequestsTest, NoKeepsEveryScreenWhereItIs)
 {
-    frmStart& start = on<frmStart>();
-    frmT1& t1 = on<frmT1>();
+    auto& start = on<frmStart>();
+    auto& t1 = on<frmT1>();
     dialogs.expectYesNo(TrackTitle, Question, false);
     send(SIGTERM);
     EXPECT_TRUE(start.isVisible());
@@ -110,8 +110,8 @@ TEST(EndRequestsOver, LeaveTheSignalsAsTheyWere)
 
 TEST_F(EndRequestsTest, TheDesktopsQuitAsksOnceAndNotScreenByScreen)
 {
-    frmStart& start = on<frmStart>();
-    frmT1& t1 = on<frmT1>();
+    auto& start = on<frmStart>();
+    auto& t1 = on<frmT1>();
     dialogs.expectYesNo(TrackTitle, Question, false);
     QEvent quit(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &quit);

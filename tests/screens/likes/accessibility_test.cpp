@@ -137,7 +137,7 @@ TEST_F(Accessibility, WhatIsComputedIsToldAsReadOnlyAndWhatIsTypedAsNot)
 
 TEST_F(Accessibility, TheNextButtonIsToldAsTheDefault)
 {
-    frmStart& start = on<frmStart>();
+    auto& start = on<frmStart>();
     EXPECT_TRUE(QAccessible::queryAccessibleInterface(&start.cmdFile)->state().defaultButton);
     EXPECT_FALSE(QAccessible::queryAccessibleInterface(&start.cmdPrint)->state().defaultButton);
 }

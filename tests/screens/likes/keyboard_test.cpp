@@ -306,7 +306,7 @@ TEST_F(NextButton, IsMarkedStepByStep)
 
 TEST_F(NextButton, IsBrowseUntilADataFileIsChosen)
 {
-    frmStart& start = on<frmStart>();
+    auto& start = on<frmStart>();
     EXPECT_EQ(marked(start), "cmdFile");
     dialogs.expectFile(sample("1-ambapur.mdb"));
     click("cmdFile");
@@ -325,7 +325,7 @@ TEST_F(NextButton, IsNoImportWithoutADataFileButComputeOnceSomethingIsTyped)
 
 TEST_F(NextButton, LooksDifferentInALightThemeAndInADarkOne)
 {
-    frmStart& start = on<frmStart>();
+    auto& start = on<frmStart>();
     const QPalette theme = QApplication::palette();
     for (const QPalette& palette : {theme, QPalette(Qt::white, QColor(60, 60, 60), QColor(80, 80, 80), Qt::black,
                                                     QColor(40, 40, 40), Qt::white, QColor(30, 30, 30))}) {

@@ -101,9 +101,9 @@ int roomForText(const QLineEdit& box)
     frame.initFrom(&box);
     frame.lineWidth = box.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, &box);
     const QMargins margins = box.textMargins();
-    constexpr int Inner = 2 * 2;  // the toolkit's own margin on either side
+    constexpr int inner = 2 * 2;  // the toolkit's own margin on either side
     return box.style()->subElementRect(QStyle::SE_LineEditContents, &frame, &box).width() - margins.left() -
-           margins.right() - Inner;
+           margins.right() - inner;
 }
 
 /// Where there is room; in a narrow window the boxes of names give way.
@@ -218,6 +218,19 @@ TEST_F(Layout, OnALargerWindowTheMostRowsFitToo)
 {
     openWithMostRows();
     expectWell({1894, 1002}, true);
+}
+
+TEST_F(Layout, InANarrowWindowANoteIsNoTowerOfSingleWords)
+{
+    workSample();
+    sized({1066, 536});
+    int notes = 0;
+    for (const auto* label : chain.get<frmM1>().findChildren<QLabel*>())
+        if (label->text().startsWith("Data for a max")) {
+            ++notes;
+            EXPECT_LE(label->heightForWidth(label->width()), 3 * label->fontMetrics().height());
+        }
+    EXPECT_EQ(notes, 2);
 }
 
 /// What the desktop's scaling leaves of the room: the rows scroll, the rest stays whole.

@@ -98,7 +98,7 @@ TEST_F(Remarks, NamesAndComputedFiguresAreNotLookedAt)
 
 TEST_F(Remarks, ALongPathShowsItsEndAndAsToolTipAllOfIt)
 {
-    frmStart& start = on<frmStart>();
+    auto& start = on<frmStart>();
     start.resize(900, 650);
     const std::string path = "/" + std::string(200, 'x') + "/division/1-ambapur.mdb";
     dialogs.expectFile(path);
