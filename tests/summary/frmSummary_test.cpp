@@ -177,7 +177,7 @@ TEST_F(SummaryScreen, WithoutANumberTheTotalsAndTransferWaitForIt)
 TEST_F(SummaryScreen, TransferTakesEachFigureFromItsScreen)
 {
     const frmSummary& form = open("5");
-    frmStart& start = chain.get<frmStart>();
+    auto& start = chain.get<frmStart>();
     start.txtT1(0).setText("Sr SE Jamunia");
     start.txtT1(4).setText("3");
     const frmT1& t1 = chain.get<frmT1>();
@@ -233,6 +233,23 @@ TEST_F(SummaryScreen, AnIndexBesideTheTableIsASubscriptError)
         chain.unload<frmSummary>();
         settle();
     }
+}
+
+// A Transfer before it has opened Compute.
+TEST_F(SummaryScreen, AnIndexBesideTheTableStopsComputeToo)
+{
+    const frmSummary& form = open("5");
+    work("1", {"10000", "2000", "1000"}, {"10", "3", "40", "5"});
+    click("cmdTransfer");
+    chain.get<frmStart>().txtT1(4).setText("17");
+    const std::string refused = "Subscript out of range: the table has no row for the index 17.";
+    dialogs.expectCritical(Title, refused);
+    click("cmdTransfer");
+    dialogs.expectCritical(Title, refused);
+    click("cmdCompute");
+    EXPECT_EQ(form.MsgAnswer, 0);
+    EXPECT_EQ(row(0), "1|Sr SE Ambapur||10000|2000|1000||10|3||40|5|");
+    EXPECT_TRUE(chain.isLoaded<frmT1>());
 }
 
 TEST_F(SummaryScreen, TheIndex16IsTheTotalRow)

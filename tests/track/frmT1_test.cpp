@@ -46,9 +46,40 @@ TEST_F(TrackScreen, ToolTipsStandToTheLetterWithTheirQuotes)
     EXPECT_EQ(toolTip("chkSub"), toolTip("fraSub"));
 }
 
+TEST_F(TrackScreen, AdvisesToChooseTheGaugeUntilOneIsChosen)
+{
+    const char* const advice = "Choose the gauge: it opens the import.";
+    for (const char* choice : {"optBG", "optMG", "optNG", "chkSub"}) {
+        open(sample("1-ambapur.mdb"));
+        EXPECT_TRUE(says(advice));
+        EXPECT_FALSE(enabled("cmdCopy"));
+        click(choice);
+        EXPECT_FALSE(says(advice)) << choice;
+        EXPECT_TRUE(enabled("cmdCopy")) << choice;
+        chain.unload<frmT1>();
+        settle();
+    }
+}
+
+// What is to be said of the file goes first, and stays when the gauge is chosen.
+TEST_F(TrackScreen, AdvisesNothingWhereTheFileIsSpokenOf)
+{
+    for (const auto& [file, notice] : {std::pair<std::string, const char*>{"", "No data file chosen"},
+                                       {fixture("damaged-cut-between-pages.mdb"),
+                                        "The file says 200 records, 105 could be read: it may be damaged."}}) {
+        open(file);
+        EXPECT_TRUE(says(notice)) << file;
+        EXPECT_FALSE(says("Choose the gauge: it opens the import.")) << file;
+        click("optBG");
+        EXPECT_TRUE(says(notice)) << file;
+        chain.unload<frmT1>();
+        settle();
+    }
+}
+
 TEST_F(TrackScreen, LoadsWithTheHeaderOfTheStartScreen)
 {
-    frmStart& start = chain.get<frmStart>();
+    auto& start = chain.get<frmStart>();
     start.txtT1(0).setText("Sr SE Ambapur");
     start.txtT1(4).setText("3");
     const frmT1& t1 = open(sample("1-ambapur.mdb"));

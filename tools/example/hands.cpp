@@ -52,7 +52,8 @@ QString Hands::text(const char* box) const
 
 void Hands::photograph(const QString& file) const
 {
-    settle();
+    for (int i = 0; i < 4; ++i)
+        settle();  // what was shown is laid out, and what wraps then once more
     if (!m_form->grab().save(file))
         throw std::runtime_error("cannot write " + file.toStdString());
 }

@@ -55,7 +55,9 @@ void addCount(Section& section, const QString& caption, TextBox& count, const QS
     QHBoxLayout& line = section.line();
     addField(line, caption, count, CountWidth);
     count.setLimit(frmM1::MostRows);
-    line.addWidget(new Caption(note), 1);
+    auto* limit = new Caption(note);
+    limit->setMinimumWidth(limit->sizeHint().width() / 2);  // in a narrow window no tower of single words
+    line.addWidget(limit, 1);
     section.addResult(line, resultCaption, mandays, FigureWidth);
 }
 

@@ -22,6 +22,10 @@ constexpr std::array RowOfKind = {3, 5, 7};
 constexpr int FirstColumn = 2;
 constexpr int CurvesRow = 9;
 
+// What a message calls the kinds' lengths.
+constexpr std::array LengthOfKind = {"the S.1 length for number of tracks", "the S.2 length for number of tracks",
+                                     "the S.3 length for number of tracks"};
+
 constexpr int LengthCharacters = 9;
 constexpr int ResultCharacters = 9;
 constexpr int SectionSpacing = 14;
@@ -129,7 +133,10 @@ void frmS1::cmdData_Click()
 
 float frmS1::lengthOf(int i) const
 {
-    return figures::toSingle(valueOf(txtND(i)), txtND(i).accessibleName().toStdString(), i);
+    const std::string name =
+        i == Curves ? "the S.4 length of curves"
+                    : figures::numbered(LengthOfKind[static_cast<std::size_t>(i / TrackCounts)], i % TrackCounts);
+    return figures::toSingle(valueOf(txtND(i)), name, i);
 }
 
 void frmS1::cmdCompute_Click()

@@ -1,5 +1,6 @@
 #include "activities/site/frmS2.h"
 
+#include <algorithm>
 #include <span>
 
 #include "activities/site/frmS1.h"
@@ -31,6 +32,24 @@ constexpr int FogSignalYears = 26;
 constexpr int SecurityYears = 29;
 constexpr int Shifts = 32;
 constexpr int Days = 38;
+
+// What a message calls the value in box `i`, with its place in the block.
+std::string nameOf(int i)
+{
+    struct Block {
+        int first;
+        const char* name;
+    };
+    constexpr std::array Blocks = {Block{Days, "the S.10 number of days of location"},
+                                   Block{Shifts, "the S.10 number of shifts of location"},
+                                   Block{SecurityYears, "the S.9 mandays of year"},
+                                   Block{FogSignalYears, "the S.7 mandays of year"},
+                                   Block{GangLength, "the length of gang"},
+                                   Block{PoorVisibility, "the length of poor visibility of gang"},
+                                   Block{Location, "the S.5 length of location"}};
+    const auto* block = std::find_if(Blocks.begin(), Blocks.end(), [i](const Block& one) { return one.first <= i; });
+    return figures::numbered(block->name, i - block->first);
+}
 
 const QString Result = "Calculated  Mandays -";
 constexpr int CountCharacters = 2;
@@ -108,7 +127,7 @@ void frmS2::layOut(const frmT1& t1)
     column({filthRemoval(),
             pastYears("S.9-Security Patrolling-",
                       "Total mandays actually utilised in    the past 3 years for this duty-", SecurityYears, txtMan18),
-            waterLevels(t1.chkSub.isChecked())});
+            waterLevels(t1.chkSub.checkState() == Qt::Checked)});
 
     QHBoxLayout& sum = layout.lineBelow();
     sum.addStretch();
@@ -238,8 +257,7 @@ std::array<float, frmS2::Values> frmS2::readValues()
     m_firstInWork = 0;
     std::array<float, Values> values{};
     for (int i = 0; i < Values; ++i)
-        values[static_cast<std::size_t>(i)] =
-            figures::toSingle(valueOf(txtND(i)), txtND(i).accessibleName().toStdString(), i);
+        values[static_cast<std::size_t>(i)] = figures::toSingle(valueOf(txtND(i)), nameOf(i), i);
     return values;
 }
 

@@ -16,6 +16,7 @@ namespace controls {
 namespace {
 
 constexpr int RecordsTaken = 17;  // the most that any screen takes
+constexpr int ColumnsTaken = 21;
 constexpr int FewestRecordsSeen = 3;
 constexpr int WidestColumn = 220;  // [px]; a memo may be longer
 constexpr int RecordsOnAnyDesktop = 10'000;
@@ -119,9 +120,12 @@ int DataGrid::heightOf(int records) const
            (wide ? horizontalScrollBar()->sizeHint().height() : 0);
 }
 
-int DataGrid::wholeHeight() const
+QSize DataGrid::wholeSize() const
 {
-    return heightOf(std::min(m_model->rowCount(), RecordsTaken));
+    int width = verticalHeader()->sizeHint().width() + 2 * frameWidth();
+    for (int i = 0; i < std::min(m_model->columnCount(), ColumnsTaken); ++i)
+        width += columnWidth(i);
+    return {width, heightOf(std::min(m_model->rowCount(), RecordsTaken))};
 }
 
 QSize DataGrid::sizeHint() const

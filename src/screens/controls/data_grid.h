@@ -16,8 +16,8 @@ public:
     /// A cell's text. Throws RunTimeError (subscript) that names what is missing.
     QString TextMatrix(int row, int column) const;
 
-    /// Height at which all records are seen, or as many as any screen takes [px].
-    int wholeHeight() const;
+    /// Size at which all cells are seen, or as many records and columns as any screen takes [px].
+    QSize wholeSize() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

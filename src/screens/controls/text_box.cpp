@@ -52,6 +52,10 @@ QString plain(double value)
 TextBox::TextBox(const QString& name)
 {
     setObjectName(name);
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!isModified())
+            setCursorPosition(0);
+    });
 }
 
 void TextBox::setLocked(bool locked)
@@ -162,6 +166,14 @@ void TextBox::focusInEvent(QFocusEvent* event)
         event->reason() == Qt::OtherFocusReason)
         selectAll();
     bringIntoView(*this);
+}
+
+void TextBox::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    const bool left = event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
+    if (left && !isLocked())
+        setCursorPosition(0);
 }
 
 void TextBox::paintEvent(QPaintEvent* event)

@@ -5,7 +5,8 @@
 namespace controls {
 
 /// A line of text that may be locked: read-only and filled pale, so that computed figures and facts taken from
-/// an earlier screen look it. setText and typing alike emit textChanged, only when the text really changes.
+/// an earlier screen look it. setText and typing alike emit textChanged, only when the text really changes. A text
+/// longer than the box shows its beginning unless the user is in it: the end of a figure would pass for another figure.
 class TextBox : public QLineEdit {
 public:
     explicit TextBox(const QString& name);
@@ -31,6 +32,7 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

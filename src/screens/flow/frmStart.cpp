@@ -160,8 +160,9 @@ void frmStart::txtT1_Change()
 void frmStart::showDataFile()
 {
     const QString path = txtT1(1).text();
-    const bool chosen = !path.trimmed().isEmpty();                       // the box starts with blanks
-    txtT1(1).setToolTip(chosen ? controls::plainTip(path) : QString());  // the box shows the end of a long one
+    const bool chosen = !path.trimmed().isEmpty();  // the box starts with blanks
+    txtT1(1).setToolTip(chosen ? controls::plainTip(path) : QString());
+    txtT1(1).end(false);  // of a long path the file's name is worth more than its first folders
     markNext(chosen ? &cmdProceed : &cmdFile);
 }
 

@@ -1,10 +1,11 @@
 #include "screens/flow/printing.h"
 
 #include <QFile>
-#include <QLayout>
 #include <QPainter>
 #include <QPicture>
 #include <QPrinter>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QWidget>
 #include <algorithm>
 #include <stdexcept>
@@ -17,8 +18,9 @@ namespace flow {
 namespace {
 
 // Fine enough for hairlines; widgets painted at a printer's full resolution cost ten times the time and bytes.
-constexpr int Resolution = 300;  // [dots per inch]
-constexpr int Gap = 6;           // between the parts [px]
+constexpr int Resolution = 300;   // [dots per inch]
+constexpr int Gap = 6;            // between the parts [px]
+constexpr int UsualWidth = 1320;  // of a form, at 96 dots per inch [px]
 constexpr double MarginMm = 10.0;
 constexpr double LargestScale = 1.0;  // a small form is not blown up beyond its size on the screen
 
@@ -66,44 +68,87 @@ private:
     QList<QPair<controls::RowSheet*, int>> m_pinned;
 };
 
-// The table of the data file is on the sheet as far as a screen takes it over, however few of its records are in view.
-class WholeTables {
+// On paper a form is as wide as all of it needs and its parts as high as that asks for, however small or large its
+// window: the same sheet on every desktop. The table of the data file is on it as far as a screen takes it over.
+class PaperSize {
 public:
-    explicit WholeTables(const QList<QWidget*>& parts)
+    PaperSize(const QWidget& form, const QList<QWidget*>& parts) : m_width(UsualWidth * form.logicalDpiX() / 96)
     {
-        for (QWidget* part : parts)
-            for (auto* view : part->findChildren<QTableView*>()) {
-                const auto* grid = dynamic_cast<const controls::DataGrid*>(view);
-                const int hidden = grid && !grid->isHidden() ? grid->wholeHeight() - grid->height() : 0;
-                if (hidden <= 0)
-                    continue;
-                m_stretched.append({part, part->height()});
-                resize(*part, part->height() + hidden);
-            }
+        for (QWidget* part : parts) {
+            m_before.append({part, part->size(), areaOf(*part), {}});
+            const controls::DataGrid* grid = gridOf(*part);
+            m_width = std::max({m_width, part->minimumSizeHint().width(), grid ? grid->wholeSize().width() : 0});
+        }
+        for (Before& before : m_before)
+            stretch(before);
     }
-    ~WholeTables()
+    ~PaperSize()
     {
-        for (const auto& [part, height] : m_stretched)
-            resize(*part, height);
+        for (const Before& before : m_before) {
+            before.part->resize(before.size);
+            if (controls::DataGrid* grid = gridOf(*before.part))
+                setBars(*grid, Qt::ScrollBarAsNeeded);
+            if (!before.area)
+                continue;
+            before.area->setWidgetResizable(true);
+            before.area->horizontalScrollBar()->setValue(before.scrolled.x());
+            before.area->verticalScrollBar()->setValue(before.scrolled.y());
+        }
     }
-    WholeTables(const WholeTables&) = delete;
-    WholeTables& operator=(const WholeTables&) = delete;
+    PaperSize(const PaperSize&) = delete;
+    PaperSize& operator=(const PaperSize&) = delete;
+
+    int width() const { return m_width; }
 
 private:
-    static void resize(QWidget& part, int height)
+    struct Before {
+        QWidget* part;
+        QSize size;
+        QScrollArea* area;  // whose content the part is
+        QPoint scrolled;
+    };
+
+    static QScrollArea* areaOf(const QWidget& part)
     {
-        part.resize(part.width(), height);
-        part.layout()->activate();
+        QWidget* above = part.parentWidget() ? part.parentWidget()->parentWidget() : nullptr;
+        auto* area = qobject_cast<QScrollArea*>(above);
+        return area && area->widget() == &part ? area : nullptr;
     }
 
-    QList<QPair<QWidget*, int>> m_stretched;
-};
+    static controls::DataGrid* gridOf(const QWidget& part)
+    {
+        for (auto* view : part.findChildren<QTableView*>())
+            if (auto* grid = dynamic_cast<controls::DataGrid*>(view); grid && !grid->isHidden())
+                return grid;
+        return nullptr;
+    }
 
-// A content that scrolls may be larger than its window; one that does not is as wide as the form.
-QSize sizeOf(const QWidget& part)
-{
-    return part.size().expandedTo(part.minimumSizeHint());
-}
+    static void setBars(controls::DataGrid& grid, Qt::ScrollBarPolicy policy)
+    {
+        grid.setHorizontalScrollBarPolicy(policy);
+        grid.setVerticalScrollBarPolicy(policy);
+    }
+
+    void stretch(Before& before)
+    {
+        QWidget& part = *before.part;
+        if (before.area) {
+            before.scrolled = {before.area->horizontalScrollBar()->value(), before.area->verticalScrollBar()->value()};
+            before.area->setWidgetResizable(false);
+        }
+        part.resize(m_width, part.height());  // headings wrap anew: the height follows the width
+        int height = part.hasHeightForWidth() ? part.heightForWidth(m_width) : part.sizeHint().height();
+        if (controls::DataGrid* grid = gridOf(part)) {
+            height += grid->wholeSize().height() - grid->sizeHint().height();
+            setBars(*grid, Qt::ScrollBarAlwaysOff);
+        }
+        if (height > 0)
+            part.resize(m_width, height);
+    }
+
+    int m_width;
+    QList<Before> m_before;
+};
 
 // A widget told to paint on a printer paints a picture of dots; by way of a recording its text stays text.
 QPicture drawn(QWidget& form, const QList<QWidget*>& parts)
@@ -114,7 +159,7 @@ QPicture drawn(QWidget& form, const QList<QWidget*>& parts)
     QPainter painter(&sheet);
     for (QWidget* part : parts) {
         part->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
-        painter.translate(0, sizeOf(*part).height() + Gap);
+        painter.translate(0, part->height() + Gap);
     }
     return sheet;
 }
@@ -138,10 +183,10 @@ void printForm(QWidget& form, const QList<QWidget*>& parts, QPrinter& printer, i
 {
     if (copies <= 0)
         return;
-    const WholeTables tables(parts);
-    QSize whole(0, -Gap);
+    const PaperSize paper(form, parts);
+    QSize whole(paper.width(), -Gap);
     for (const QWidget* part : parts)
-        whole = QSize(std::max(whole.width(), sizeOf(*part).width()), whole.height() + sizeOf(*part).height() + Gap);
+        whole.rheight() += part->height() + Gap;
 
     printer.setCopyCount(1);  // the sheet is repeated here
     printer.setResolution(Resolution);

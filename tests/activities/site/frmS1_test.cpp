@@ -26,8 +26,9 @@ TEST_F(FirstSiteScreen, CaptionsStandToTheLetter)
           "S.4- Extra Maintenance due to Very Sharp Curves, Deep Cuttings, and Steep Gradients-", "Number of Tracks-",
           "     Length of Tunnel in Metres-", "     Length of Bridges in Metres-",
           "Length of Bridges in Metres- (Lineal Waterway more than 150 metres) ",
-          "Total Length of Curves in Kms sharper than 3 Degrees on BG                    and 6 Degrees on MG           "
-          "                                         (NG Track does not need extra maintenance on this reason)",
+          ("Total Length of Curves in Kms sharper than 3 Degrees on BG                   "
+           " and 6 Degrees on MG                                                    "
+           "(NG Track does not need extra maintenance on this reason)"),
           "Calculated Mandays - ", "S1 Data"})
         EXPECT_TRUE(says(caption)) << caption;
     EXPECT_EQ(text("cmdData"), "&Data from File");
@@ -244,7 +245,7 @@ TEST_F(FirstSiteScreen, TunnelsOfOneAndTwoTracksAreAddedUp)
 
 TEST_F(FirstSiteScreen, PublishesItsResultsUnrounded)
 {
-    frmS1& form = open<frmS1>();
+    auto& form = open<frmS1>();
     EXPECT_EQ(form.mandays.tunnels + form.mandays.bridges + form.mandays.longGirders + form.mandays.sharpCurves, 0.0);
     // .1 is kept as the single .100000001490116; what is multiplied with it is a double, in S.4 a single.
     for (const char* box : {"txtND(0)", "txtND(4)", "txtND(8)", "txtND(12)"})
@@ -300,11 +301,11 @@ TEST_F(FirstSiteScreen, AnotherImportAndComputeAddToTheSums)
 
 TEST_F(FirstSiteScreen, ALengthBeyondASingleIsAnOverflowAndShowsNothing)
 {
-    frmS1& form = open<frmS1>();
+    auto& form = open<frmS1>();
     type("txtND(0)", "1000");
     type("txtND(6)", "1e39");  // the largest single is 3.4e38
-    dialogs.expectCriticalWith(
-        Title, "Overflow: Length of Bridges in Metres-, tracks 3, S.2- Bridge Substructure Maintenance- is ");
+    dialogs.expectCritical(Title,
+                           "Overflow: the S.2 length for number of tracks 3 is 1e+39, too large to compute with.");
     click("cmdCompute");
     EXPECT_EQ(focus(), "txtND(6)");
     EXPECT_EQ(results(), "|||");
@@ -315,6 +316,27 @@ TEST_F(FirstSiteScreen, ALengthBeyondASingleIsAnOverflowAndShowsNothing)
     type("txtND(6)", "");
     click("cmdCompute");
     EXPECT_EQ(results(), "348|||");
+}
+
+TEST_F(FirstSiteScreen, AnOverflowNamesTheActivityAndTheNumberOfTracks)
+{
+    // clang-format off
+    const std::pair<const char*, const char*> named[] = {
+        {"txtND(0)",  "the S.1 length for number of tracks 1"},
+        {"txtND(3)",  "the S.1 length for number of tracks 4"},
+        {"txtND(4)",  "the S.2 length for number of tracks 1"},
+        {"txtND(11)", "the S.3 length for number of tracks 4"},
+        {"txtND(12)", "the S.4 length of curves"},
+    };
+    // clang-format on
+    open<frmS1>();
+    for (const auto& [box, name] : named) {
+        type(box, "1e39");
+        dialogs.expectCritical(Title, std::string("Overflow: ") + name + " is 1e+39, too large to compute with.");
+        click("cmdCompute");
+        EXPECT_EQ(focus(), box);
+        type(box, "");
+    }
 }
 
 TEST_F(FirstSiteScreen, AComputeThatFailsAtTheLastStepLeavesNothingBehind)
@@ -334,7 +356,7 @@ TEST_F(FirstSiteScreen, AComputeThatFailsAtTheLastStepLeavesNothingBehind)
 
 TEST_F(FirstSiteScreen, NextAsksUntilPrinted)
 {
-    frmS1& form = open<frmS1>();
+    auto& form = open<frmS1>();
     type("txtND(0)", "1000");
     click("cmdCompute");
     expectPrintQuestion(true);
@@ -350,7 +372,7 @@ TEST_F(FirstSiteScreen, NextAsksUntilPrinted)
 
 TEST_F(FirstSiteScreen, PrintedItGoesOnAtOnce)
 {
-    frmS1& form = open<frmS1>(sample("1-ambapur.mdb"));
+    auto& form = open<frmS1>(sample("1-ambapur.mdb"));
     click("cmdData");
     click("cmdCompute");
     const std::string pdf = testing::TempDir() + "frmS1.pdf";

@@ -67,7 +67,7 @@ TEST_F(SecondSiteScreen, TotalTakesInTheFirstScreen)
 
 TEST_F(SecondSiteScreen, TotalIsPublishedInSinglePrecision)
 {
-    frmS2& form = open<frmS2>();
+    auto& form = open<frmS2>();
     static_assert(std::is_same_v<decltype(form.TotalMandays), float>);
     type("txtTB3", "100000.1");  // 294 x 100000.1 = 29400029.4, as a single 29400030
     click("cmdCompute");
@@ -86,7 +86,7 @@ TEST_F(SecondSiteScreen, WithoutTheFirstScreenItsMandaysAreNone)
 
 TEST_F(SecondSiteScreen, ANonSuburbanSectionAddsWhatStandsInTheWaterBoxes)
 {
-    frmS2& form = open<frmS2>();
+    auto& form = open<frmS2>();
     type("txtTB3", "1");
     form.txtTB4.setText("1");
     form.txtND(32).setText("3");
@@ -171,15 +171,33 @@ TEST_F(SecondSiteScreen, AGangThatIsNotCountedNeedsNoLength)
     EXPECT_TRUE(enabled("cmdNext"));
 }
 
-TEST_F(SecondSiteScreen, AValueBeyondASingleIsAnOverflow)
+TEST_F(SecondSiteScreen, AValueBeyondASingleIsAnOverflowAndIsNamed)
 {
-    open<frmS2>();
-    type("txtTB3", "1");
-    type("txtND(30)", "1e39");  // the largest single is 3.4e38
-    dialogs.expectCriticalWith(Title, "Overflow: Total mandays actually utilised");
-    click("cmdCompute");
-    EXPECT_EQ(focus(), "txtND(30)");
-    EXPECT_EQ(results(), "||||||");
+    // clang-format off
+    const std::pair<const char*, const char*> named[] = {
+        {"txtND(0)",  "the S.5 length of location 1"},
+        {"txtND(7)",  "the S.5 length of location 8"},
+        {"txtND(8)",  "the length of poor visibility of gang 1"},
+        {"txtND(16)", "the length of poor visibility of gang 9"},
+        {"txtND(17)", "the length of gang 1"},
+        {"txtND(26)", "the S.7 mandays of year 1"},
+        {"txtND(30)", "the S.9 mandays of year 2"},
+        {"txtND(37)", "the S.10 number of shifts of location 6"},
+        {"txtND(38)", "the S.10 number of days of location 1"},
+    };
+    // clang-format on
+    openSuburban();
+    type("txtTB1", "8");
+    type("txtTB2", "9");
+    type("txtTB4", "6");
+    for (const auto& [box, name] : named) {
+        type(box, "1e39");  // the largest single is 3.4e38
+        dialogs.expectCritical(Title, std::string("Overflow: ") + name + " is 1e+39, too large to compute with.");
+        click("cmdCompute");
+        EXPECT_EQ(focus(), box);
+        EXPECT_EQ(results(), "||||||");
+        type(box, "");
+    }
 }
 
 TEST_F(SecondSiteScreen, AProductBeyondASingleIsAnOverflowOfItsLocation)
@@ -198,7 +216,7 @@ TEST_F(SecondSiteScreen, AProductBeyondASingleIsAnOverflowOfItsLocation)
 
 TEST_F(SecondSiteScreen, NextAsksUntilPrinted)
 {
-    frmS2& form = open<frmS2>(sample("1-ambapur.mdb"));
+    auto& form = open<frmS2>(sample("1-ambapur.mdb"));
     click("cmdData");
     click("cmdCompute");
     expectPrintQuestion(true);

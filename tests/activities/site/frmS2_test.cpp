@@ -267,6 +267,13 @@ TEST_F(SecondSiteScreen, WaterIsWatchedOnSuburbanSectionsAlone)
     }
 }
 
+TEST_F(SecondSiteScreen, AGreyedSuburbanBoxIsNotATickedOne)
+{
+    chain.get<frmT1>().chkSub.setCheckState(Qt::PartiallyChecked);
+    open<frmS2>();
+    EXPECT_FALSE(enabled("txtTB4"));
+}
+
 // Import
 
 TEST_F(SecondSiteScreen, ImportTakesEveryValueFromItsPlace)

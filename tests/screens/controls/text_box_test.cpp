@@ -254,6 +254,28 @@ TEST(TextBoxTest, ARewrittenCountLeavesTheCursorInItsPlace)
     EXPECT_EQ(box.cursorPosition(), 1);
 }
 
+// "12345.67" in a narrow box must not pass for "45.67".
+TEST(TextBoxTest, ShowsTheBeginningOfWhatDoesNotFitUnlessTheUserIsInIt)
+{
+    TextBox box("txtMan9");
+    box.setNumeric();
+    box.setFixedWidth(40);
+    box.show();
+    const auto beginning = [&box] { return box.cursorPosition() == 0 && box.selectedText().isEmpty(); };
+
+    box.setText("1234567.89");
+    EXPECT_TRUE(beginning());
+    box.selectAll();
+    QTest::keyClicks(&box, "987654321");
+    EXPECT_EQ(box.cursorPosition(), 9) << "what is typed is seen";
+    QFocusEvent toAnotherProgram(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(&box, &toAnotherProgram);
+    EXPECT_EQ(box.cursorPosition(), 9) << "back from there, typing goes on";
+    QFocusEvent toAnotherBox(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(&box, &toAnotherBox);
+    EXPECT_TRUE(beginning());
+}
+
 TEST(TextBoxTest, IsReadLenientlyWhateverTheLocale)
 {
     TextBox box("txtKmf");

@@ -71,9 +71,16 @@ protected:
             settle();
     }
 
+    /// More records than a small window has room for, as if from a data file.
+    void showTable()
+    {
+        putRecords("TrGrid", std::vector(17, std::vector<std::string>(13, "123.45")));
+        find("TrGrid").show();
+    }
+
     QString print(const QString& name)
     {
-        const QString path = folder.filePath(name);
+        QString path = folder.filePath(name);
         dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 1}, path.toStdString());
         click("cmdPrint");
         return path;
@@ -93,6 +100,51 @@ TEST_F(PrintedForm, IsTheWholeFormAlsoWhatASmallWindowHasScrolledAway)
     ASSERT_GT(area().verticalScrollBar()->maximum(), 100);
     const QByteArray small = drawnOn(print("small.pdf"));
     EXPECT_EQ(small.count("Tj") + small.count("TJ"), whole.count("Tj") + whole.count("TJ"));
+}
+
+TEST_F(PrintedForm, IsTheSameHoweverSmallOrLargeTheWindow)
+{
+    showTable();
+    sized(1340, 690);
+    const QByteArray usual = drawnOn(print("usual.pdf"));
+    for (const QSize window : {QSize(900, 434), QSize(1340, 1002), QSize(1894, 1002)}) {
+        sized(window.width(), window.height());
+        area().horizontalScrollBar()->setValue(area().horizontalScrollBar()->maximum());
+        area().verticalScrollBar()->setValue(area().verticalScrollBar()->maximum());
+        settle();
+        const QPoint scrolled(area().horizontalScrollBar()->value(), area().verticalScrollBar()->value());
+        EXPECT_TRUE(drawnOn(print("other.pdf")) == usual)
+            << "another sheet from a window " << window.width() << " wide";
+        for (int i = 0; i < 3; ++i)
+            settle();
+        EXPECT_EQ(QPoint(area().horizontalScrollBar()->value(), area().verticalScrollBar()->value()), scrolled);
+        EXPECT_EQ(form.size(), window);
+    }
+}
+
+TEST_F(PrintedForm, HasNoScrollBars)
+{
+    class BarWatch : public QObject {
+    public:
+        int painted = 0;
+
+    protected:
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            painted += event->type() == QEvent::Paint && qobject_cast<QScrollBar*>(watched);
+            return false;
+        }
+    };
+    showTable();
+    sized(1000, 330);
+    BarWatch bars;
+    qApp->installEventFilter(&bars);
+    form.grab();
+    EXPECT_GE(bars.painted, 2) << "the rows' and the table's on the screen";
+    bars.painted = 0;
+    dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 1}, folder.filePath("form.pdf").toStdString());
+    form.cmdPrint.click();  // and nothing else: the screen is not painted meanwhile
+    EXPECT_EQ(bars.painted, 0);
 }
 
 TEST_F(PrintedForm, HasItsHeadingsOnTopHoweverFarItIsScrolled)
@@ -161,7 +213,7 @@ TEST_F(PrintedSheet, IsRepeatedByTheProgramNotByThePrinterToo)
 
 TEST_F(PrintedSheet, StandsUprightWhenItIsHigherThanWide)
 {
-    part.resize(200, 400);
+    part.resize(200, 4000);
     flow::printForm(form, {&part}, printer, 1);
     const QSizeF paper = paperOf(path);
     EXPECT_LT(paper.width(), paper.height());
