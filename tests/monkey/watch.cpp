@@ -154,13 +154,18 @@ std::vector<std::string> Watch::after(const QWidget* workedOn)
 {
     m_wrong.clear();
     const Screens now = loadedOf(m_chain);
+    // After the end a handler under way may make a screen once more, which goes with it.
+    const bool agreed =
+        answered(Answers::Kind::YesNo, "End the program? The figures on the screens will be lost.", true);
+    const auto isToBeSeen = [](const flow::Screen* screen) { return screen && screen->isVisible(); };
+    m_ended = agreed || std::none_of(now.begin(), now.end(), isToBeSeen);
     checkLoaded(now);
     checkWindows(now);
     checkBoxes(workedOn);
     checkPublished();
     checkCounts(now);
     checkPrinted(now);
-    checkAsked(now);
+    checkAsked();
     if (!m_wrong.empty())
         for (const QString& button : m_pressed)
             m_wrong.push_back("  pressed: " + button.toStdString());
@@ -170,16 +175,15 @@ std::vector<std::string> Watch::after(const QWidget* workedOn)
 // A screen goes only with the end of the program, or with its Sr SE.
 void Watch::checkLoaded(const Screens& now)
 {
-    const bool ended = std::none_of(now.begin(), now.end(), [](const auto* screen) { return screen; });
     const bool allowed =
         m_nothingEntered ||
         answered(Answers::Kind::YesNo, "End the program? The figures on the screens will be lost.", true) ||
         (pressed("frmSummary.cmdExit") &&
          (m_printed[Summary] == 1 ||
           answered(Answers::Kind::YesNo, "Do you want to take a print of the form ?", false)));
-    if (ended) {
+    if (m_ended) {
         if (!allowed)
-            fail("the program ended, and nobody agreed to that");
+            fail("no screen is to be seen, and nobody agreed to the end");
         return;
     }
     const bool nextSrSe = answered(Answers::Kind::Message, "Continue for Next Sr SSE on the Division", false);
@@ -196,15 +200,9 @@ void Watch::checkLoaded(const Screens& now)
 
 void Watch::checkWindows(const Screens& now)
 {
-    bool ended = true;
-    bool anyVisible = false;
     for (std::size_t i = 0; i < Places; ++i) {
-        if (!now[i])
+        if (!now[i] || !now[i]->isVisible())
             continue;
-        ended = false;
-        if (!now[i]->isVisible())
-            continue;
-        anyVisible = true;
         const QRect desktop = now[i]->screen()->availableGeometry();
         const bool isNew = !m_loaded[i];
         if (isNew && !desktop.contains(now[i]->geometry()))
@@ -219,8 +217,6 @@ void Watch::checkWindows(const Screens& now)
                      .arg(now[i]->width())
                      .arg(now[i]->height()));
     }
-    if (!ended && !anyVisible)
-        fail("no screen is to be seen");
 }
 
 void Watch::checkBoxes(const QWidget* workedOn)
@@ -387,12 +383,10 @@ void Watch::checkPrinted(const Screens& now)
 }
 
 // A box belongs to a screen, and it says something.
-void Watch::checkAsked(const Screens& now)
+void Watch::checkAsked()
 {
-    // A mnemonic that comes late may find the program at its end.
-    const bool ended = std::none_of(now.begin(), now.end(), [](const auto* screen) { return screen; });
     for (const Answers::Given& box : m_answers.given) {
-        if (!box.screen && !ended)
+        if (!box.screen && !m_ended)  // a mnemonic that comes late may find the program at its end
             fail("a box of no screen: " + box.title);
         if (box.kind != Answers::Kind::Print && (box.title.trimmed().isEmpty() || box.text.trimmed().isEmpty()))
             fail("a box without words: " + box.title + box.text);

@@ -51,7 +51,7 @@ private:
     void checkPublished();
     void checkCounts(const Screens& now);
     void checkPrinted(const Screens& now);
-    void checkAsked(const Screens& now);
+    void checkAsked();
     void fail(const QString& what);
 
     flow::Chain& m_chain;
@@ -63,6 +63,7 @@ private:
     std::vector<Box> m_boxes;
     std::vector<Published> m_published;
     bool m_nothingEntered = true;
+    bool m_ended = false;
     std::set<QString> m_pressed;
     std::map<QString, int> m_pressedEver;
     std::vector<std::string> m_wrong;
