@@ -107,7 +107,7 @@ QString Answers::dataFile()
 
 QString Answers::openFile(QWidget& parent, const QString& title, const QString& filter, const QString&)
 {
-    const QString path = dataFile();
+    QString path = dataFile();
     given.push_back({.kind = Kind::File, .screen = screenUnder(parent), .title = title, .text = filter, .path = path});
     whileOpen(parent);
     return path;

@@ -56,9 +56,9 @@ const Rule Rules[] = {
     {"frmStart.txtT1\\(1\\)", "frmStart.cmdFile|frmSummary.cmdCompute"},
     {"frmStart.txtT1\\(4\\)", "frmSummary.cmdCompute"},
     // what a screen computes
-    {"frmT1.txt(Tkm|Eqtkm)\\(\\d+\\)", "frmT1.cmdCompute"},
-    {"frmT2.txt(A|B|C|ABC)\\(\\d+\\)", "frmT2.cmdCompute"},
-    {"frmT4.txtMan[123]\\(\\d+\\)", "frmT4.cmdCompute"},
+    {R"(frmT1.txt(Tkm|Eqtkm)\(\d+\))", "frmT1.cmdCompute"},
+    {R"(frmT2.txt(A|B|C|ABC)\(\d+\))", "frmT2.cmdCompute"},
+    {R"(frmT4.txtMan[123]\(\d+\))", "frmT4.cmdCompute"},
     {"frmY.(txtM1|txtM2|TXTM3|TXTM4|txtM5|txtM6)\\(12\\)|frmY.txtYd4", "frmY.cmdCOMPUTE"},
     {"frmM1.(txtman1|txtMan[234])", "frmM1.cmdCompute"},
     {"frmM2.(txtman5|txtMan[6789]|txtSL)", "frmM2.cmdCompute|frmM2.cmdData"},
@@ -66,14 +66,14 @@ const Rule Rules[] = {
     {"frmS2.(txtMan1[4-9]|txtMan20)", "frmS2.cmdCompute"},
     // gauge, and the method of maintenance that it forces
     {"frmT1.txtT1\\(3\\)", "frmT1.(opt[BMN]G|chkSub)"},
-    {"frmT1.cboMtc\\(\\d+\\)", "frmT1.(opt[BMN]G|chkSub|cmdCopy)"},
+    {R"(frmT1.cboMtc\(\d+\))", "frmT1.(opt[BMN]G|chkSub|cmdCopy)"},
     // counts, locked by Compute and imported once more
     {"frmT1.txtNSeg", "frmT1.cmdCopy"},
     {"frmY.txtNYd", "frmY.cmdYdata"},
     {"frmM1.txt(NB|VL)", "frmM1.cmdData"},
     {"frmM2.txt(NLC|Kbeats|NG)", "frmM2.cmdData"},
     {"frmS2.txtTB[1-4]", "frmS2.cmdData"},
-    {"frmS2.txtND\\(\\d+\\)", "frmS2.cmdData"},
+    {R"(frmS2.txtND\(\d+\))", "frmS2.cmdData"},
     // the division's totals
     {"frmSummary.txt(Tkm|TR|M|S|TMan|Key|LR|CS|SS|SDC|Ex)\\(15\\)", "frmSummary.cmdTotal"},
 };
@@ -251,7 +251,7 @@ void Watch::checkLocked(const Box& box, const QString& now)
     const bool imports = std::any_of(m_pressed.begin(), m_pressed.end(), [&](const QString& button) {
         return fits("frm(T1|T2|Y|M1|M2|S1|S2).(cmdCopy|cmdYdata|cmdData)|frmSummary.(cmdTransfer|cmdCompute)", button);
     });
-    const bool numbered = fits("frmM1.(txtTB|txtNVL)\\(\\d+\\)", box.name) &&
+    const bool numbered = fits(R"(frmM1.(txtTB|txtNVL)\(\d+\))", box.name) &&
                           box.name.contains("(" + QString::number(now.toInt() - 1) + ")");
     if (!numbered && !(ofHiddenRow && imports))
         fail(box.name + " was closed and changed from " + quoted(box.text) + " to " + quoted(now));
