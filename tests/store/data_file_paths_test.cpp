@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -165,7 +166,7 @@ public:
     AsNobody(const AsNobody&) = delete;
     AsNobody& operator=(const AsNobody&) = delete;
 
-    bool given() const { return m_given && access("/proc/self/exe", X_OK) == 0; }
+    bool given() const { return m_given; }
 
 private:
     bool m_given;
@@ -178,12 +179,17 @@ TEST(DataFilePath, AFileThatMayNotBeReadSaysSo)
     std::filesystem::copy_file(sample("1-ambapur.mdb"), copy);
     std::filesystem::permissions(copy, std::filesystem::perms::none);
     std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
-    const DataFile dataFile;  // the reader is found before the rights are gone
+    // A reader that everybody may start, wherever the build lies.
+    const Folder open;
+    const std::filesystem::path reader = open.path() / "crewmark-reader";
+    std::filesystem::copy_file(DataFile::installedReader(), reader);
+    std::filesystem::permissions(open.path(), std::filesystem::perms::all);
+    const DataFile dataFile(reader);
     Reading unreadable;
     Reading inClosedFolder;
     {
         const AsNobody nobody;
-        if (!nobody.given() || access(DataFile::installedReader().c_str(), X_OK) != 0)
+        if (!nobody.given() || faccessat(AT_FDCWD, reader.c_str(), X_OK, AT_EACCESS) != 0)
             GTEST_SKIP() << "no user here who may start the reader but not read the file";
         unreadable = dataFile.read(copy, "TR");
     }

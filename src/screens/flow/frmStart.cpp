@@ -62,7 +62,7 @@ QWidget* frmStart::titles()
     title->setObjectName("lblTitle(1)");
     title->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     QFont serif("Times New Roman");
-    serif.setPointSizeF(title->font().pointSizeF() * 1.9);
+    serif.setPointSizeF(title->font().pointSizeF() * 1.75);
     serif.setBold(true);
     title->setFont(serif);
     down->addWidget(title);
@@ -83,12 +83,12 @@ void frmStart::layOut()
     across->addWidget(image, 1);
 
     auto* down = new QVBoxLayout;
-    down->setSpacing(18);
+    down->setSpacing(12);
     across->addLayout(down, 1);
     down->addWidget(titles());
 
     auto* fields = new QGridLayout;
-    fields->setVerticalSpacing(8);
+    fields->setVerticalSpacing(6);
     fields->setHorizontalSpacing(6);
     down->addLayout(fields);
     int row = 0;
