@@ -89,7 +89,7 @@ TEST_F(SummaryScreen, FifteenSrSesFitALaptopScreen)
     form.resize(1340, 690);
     for (int i = 0; i < 3; ++i)
         settle();
-    const auto* rows = form.findChild<QScrollArea*>();
+    const auto* rows = form.findChild<QScrollArea*>("rows");
     EXPECT_EQ(rows->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(rows->horizontalScrollBar()->maximum(), 0);
 }

@@ -142,7 +142,7 @@ TEST_F(TrackScreen, SixteenSegmentsFitALaptopScreen)
     t1.resize(1340, 690);
     for (int i = 0; i < 3; ++i)
         settle();
-    auto* area = t1.findChild<QScrollArea*>();
+    auto* area = t1.findChild<QScrollArea*>("rows");
     EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
 }

@@ -159,8 +159,10 @@ void bringIntoView(QWidget& box)
         if (const auto* sheet = dynamic_cast<const RowSheet*>(above))
             pinned = sheet->headingHeight();
         if (auto* area = qobject_cast<QScrollArea*>(above)) {
-            area->ensureWidgetVisible(&box, box.width() / 2, pinned + box.height() / 2);
-            return;
+            // By its middle: for a box to type in the area would look at the cursor alone.
+            const QPoint middle = box.mapTo(area->widget(), box.rect().center());
+            area->ensureVisible(middle.x(), middle.y(), box.width(), pinned + box.height());
+            pinned = 0;  // the headings are the inner area's; the one around it may scroll as a whole
         }
     }
 }

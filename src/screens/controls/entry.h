@@ -16,7 +16,7 @@ bool handleEntryKey(QWidget& box, QKeyEvent& event);
 /// the cursor, without the line end that spreadsheets put behind it. False for a plain text: an ordinary paste.
 bool pasteBlock(QWidget& first, const QString& block);
 
-/// Scrolls the rows, if they scroll, so that the box is in view.
+/// Scrolls the rows, and in a very small window all above the buttons, so that the control is in view.
 void bringIntoView(QWidget& box);
 
 }  // namespace controls

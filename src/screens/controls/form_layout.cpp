@@ -20,13 +20,7 @@ constexpr int NarrowestName = 9;   // [characters]: where the desktop is scaled,
 // As high as what it shows while there is room, so that the table below stands right under the rows.
 class Scroller : public QScrollArea {
 public:
-    Scroller()
-    {
-        setFrameShape(NoFrame);
-        setWidgetResizable(true);
-        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
-        setFocusPolicy(Qt::NoFocus);
-    }
+    Scroller() { setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum); }
 
     QSize sizeHint() const override
     {
@@ -45,8 +39,7 @@ public:
 
     QSize minimumSizeHint() const override
     {
-        const QSize content = widget()->sizeHint();
-        return {200, std::min(content.height(), 6 * (fontMetrics().height() + 9))};
+        return {200, std::min(sizeHint().height(), 6 * (fontMetrics().height() + 9))};
     }
 
 protected:
@@ -65,11 +58,34 @@ protected:
     }
 };
 
+// All but the buttons. Rows and table give way as far as they can before it scrolls itself.
+class AboveButtons : public QWidget {
+public:
+    int heightForWidth(int width) const override { return layout()->totalMinimumHeightForWidth(width); }
+};
+
+void fill(QScrollArea& area, QWidget* content)
+{
+    area.setFrameShape(QFrame::NoFrame);
+    area.setFocusPolicy(Qt::NoFocus);
+    area.setWidgetResizable(true);
+    area.setWidget(content);
+    area.viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+}
+
 }  // namespace
 
-FormLayout::FormLayout(QWidget& form, const QString& title) : m_down(new QVBoxLayout(&form))
+FormLayout::FormLayout(QWidget& form, const QString& title) : m_form(new QVBoxLayout(&form))
 {
-    m_down->setContentsMargins(Margin, Margin, Margin, Margin);
+    m_form->setContentsMargins(Margin, Margin, Margin, Margin);
+    m_form->setSpacing(Spacing);
+    auto* whole = new QScrollArea;
+    m_form->addWidget(whole);
+    auto* above = new AboveButtons;
+    fill(*whole, above);
+    m_down = new QVBoxLayout(above);
+    m_down->setContentsMargins(0, 0, 0, 0);
     m_down->setSpacing(Spacing);
     auto* header = new QWidget;
     m_header = new QVBoxLayout(header);
@@ -102,9 +118,8 @@ QHBoxLayout& FormLayout::headerLine()
 void FormLayout::scroll(QWidget* content)
 {
     auto* scroller = new Scroller;
-    scroller->setWidget(addPart(content));
-    scroller->viewport()->setAutoFillBackground(false);
-    content->setAutoFillBackground(false);
+    scroller->setObjectName("rows");
+    fill(*scroller, addPart(content));
     m_down->insertWidget(m_down->count() - 1, scroller);
 }
 
@@ -164,7 +179,7 @@ void FormLayout::buttons(std::initializer_list<Button*> buttons)
     line->addStretch();
     for (Button* button : buttons)
         line->addWidget(button);
-    m_down->addWidget(addPart(holder));
+    m_form->addWidget(addPart(holder));
 }
 
 int widthOf(const QWidget& box, int characters)

@@ -14,6 +14,7 @@ class Section;
 
 /// One face for all screens, from top to bottom: the title, lines of header boxes, what scrolls (rows or sections),
 /// what stands under it (the data file's table), the buttons. What is added first is read and tabbed to first.
+/// In a window too small for a few rows under their header all but the buttons scrolls.
 class FormLayout {
 public:
     FormLayout(QWidget& form, const QString& title);
@@ -41,6 +42,7 @@ private:
     QWidget* addPart(QWidget* part);
     void scroll(QWidget* content);
 
+    QVBoxLayout* m_form;  // m_down and the buttons
     QVBoxLayout* m_down;
     QVBoxLayout* m_header;
     QList<QWidget*> m_parts;

@@ -104,6 +104,15 @@ void Screen::addDate(QBoxLayout& line)
     controls::addField(line, "     Date (mm-dd-yyyy)", txtRly(2), DateCharacters).setObjectName("LblRly");
 }
 
+// By Tab one also comes from the buttons to what has scrolled away; the toolkit's areas look after their own alone.
+bool Screen::focusNextPrevChild(bool next)
+{
+    const bool moved = QWidget::focusNextPrevChild(next);
+    if (moved && focusWidget())
+        controls::bringIntoView(*focusWidget());
+    return moved;
+}
+
 void Screen::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(chain.mayHide(*this));

@@ -93,6 +93,7 @@ protected:
     void addDate(QBoxLayout& line);
 
     void closeEvent(QCloseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     Chain& chain;

@@ -47,7 +47,7 @@ protected:
             QApplication::processEvents();
     }
 
-    QScrollArea& area() { return *form.findChild<QScrollArea*>(); }
+    QScrollArea& area() { return *form.findChild<QScrollArea*>("rows"); }
     int headingY() { return from->mapTo(area().viewport(), QPoint()).y(); }
 
     QWidget form;

@@ -86,7 +86,7 @@ protected:
         return path;
     }
 
-    QScrollArea& area() { return *form.findChild<QScrollArea*>(); }
+    QScrollArea& area() { return *form.findChild<QScrollArea*>("rows"); }
 
     QTemporaryDir folder;
     frmT1& form = on<frmT1>();

@@ -1,16 +1,19 @@
 // How the ten screens lie in their windows. Run again under other scale factors: see CMakeLists.txt.
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QTableView>
+#include <QTest>
 
 #include "screens/controls/caption.h"
 #include "screens/likes/ten_screens.h"
@@ -49,15 +52,21 @@ QRect placeIn(const QWidget& form, const QWidget& part)
 
 QScrollArea* rowsOf(const QWidget& form)
 {
-    for (auto* area : form.findChildren<QScrollArea*>())
-        if (area->widget())
-            return area;
-    return nullptr;  // the start screen has none
+    return form.findChild<QScrollArea*>("rows");  // the start screen has none
 }
 
 bool inside(const QScrollArea* area, const QWidget& part)
 {
     return area && area->widget()->isAncestorOf(&part);
+}
+
+/// The innermost area with which the part scrolls; none for the buttons.
+const QScrollArea* areaAround(const QWidget& part)
+{
+    for (const QWidget* above = part.parentWidget(); above; above = above->parentWidget())
+        if (const auto* area = qobject_cast<const QScrollArea*>(above))
+            return area;
+    return nullptr;
 }
 
 void expectNothingOverlaps(const QWidget& form)
@@ -66,13 +75,13 @@ void expectNothingOverlaps(const QWidget& form)
     const QScrollArea* rows = rowsOf(form);
     for (std::size_t i = 0; i < parts.size(); ++i) {
         for (std::size_t j = i + 1; j < parts.size(); ++j) {
-            if (inside(rows, *parts[i]) != inside(rows, *parts[j]))
+            if (areaAround(*parts[i]) != areaAround(*parts[j]))
                 continue;  // rows scroll away under what stands below them; the areas are looked at by themselves
             const QRect a = placeIn(form, *parts[i]);
             const QRect b = placeIn(form, *parts[j]);
             EXPECT_FALSE(a.intersects(b)) << nameOf(*parts[i]) << " lies over " << nameOf(*parts[j]);
         }
-        if (!rows || inside(rows, *parts[i]))
+        if (!rows || areaAround(*parts[i]) != areaAround(*rows))
             continue;
         EXPECT_FALSE(placeIn(form, *parts[i]).intersects(placeIn(form, *rows)))
             << nameOf(*parts[i]) << " lies over the rows";
@@ -244,12 +253,55 @@ TEST_P(LargeDesktop, HeaderAndButtonsStayWhole)
     expectWell(windowOn({1920, 1080}, GetParam()), GetParam() < 1.5);
 }
 
-class SmallDesktop : public ScaledLayout {};  // doubled, 1366x768 leaves no more than 683x384
+class SmallDesktop : public ScaledLayout {};
 
 TEST_P(SmallDesktop, HeaderAndButtonsStayWhole)
 {
     workSample();
     expectWell(windowOn({1366, 768}, GetParam()), false);
+}
+
+/// Doubled, 1366x768 leaves 683x384: no room for rows under their header. All above the buttons scrolls.
+TEST_F(Layout, OnTheSmallestDesktopTheButtonsStayAndTabBringsTheRestIntoView)
+{
+    const QSize window = windowOn({1366, 768}, 2.0);
+    int seen = 0;
+    const auto check = [&](const Step& step) {
+        SCOPED_TRACE(step.form->objectName().toStdString());
+        sized(window);
+        EXPECT_EQ(step.form->size(), window);
+        expectNothingOverlaps(*step.form);
+        expectNothingCut(*step.form);
+        expectTextsFit(*step.form, Usual);
+        int buttons = 0;
+        for (const auto* button : step.form->findChildren<QPushButton*>())
+            if (button->isVisible() && !areaAround(*button)) {
+                ++buttons;
+                EXPECT_TRUE(step.form->rect().contains(placeIn(*step.form, *button))) << nameOf(*button);
+            }
+        EXPECT_GE(buttons, 2);
+
+        const QWidget* const first = QApplication::focusWidget();
+        const QWidget* at = nullptr;
+        for (int stops = 0; at != first && stops < 1000; ++stops) {
+            QTest::keyClick(step.form, Qt::Key_Tab);
+            settle();
+            at = QApplication::focusWidget();
+            ASSERT_NE(at, nullptr);
+            if (qobject_cast<const QTableView*>(at))
+                continue;  // it has bars of its own
+            EXPECT_EQ(at->visibleRegion(), QRegion(at->rect())) << nameOf(*at) << " is not in view";
+            ++seen;
+        }
+        EXPECT_EQ(at, first);
+        step.form->resize(Usual);
+        settle();
+    };
+    workSample(check);
+    nowOn<frmStart>().activateWindow();
+    settle();
+    check(steps.front());
+    EXPECT_GT(seen, 90) << "stops of Tab on the ten screens";
 }
 
 std::string percent(const testing::TestParamInfo<double>& tested)

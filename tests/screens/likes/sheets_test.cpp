@@ -44,10 +44,8 @@ protected:
     /// Of the rows; the start screen has none.
     static QScrollBar* scrollBarOf(const QWidget& form)
     {
-        for (auto* area : form.findChildren<QScrollArea*>())
-            if (area->widget())
-                return area->verticalScrollBar();
-        return nullptr;
+        const auto* area = form.findChild<QScrollArea*>("rows");
+        return area ? area->verticalScrollBar() : nullptr;
     }
 
     static QByteArray pictureOf(const QString& pdf) { return read("pdftoppm", {"-r", "60", "-png", pdf}); }

@@ -18,7 +18,7 @@ protected:
         form.resize(1340, 400);
         for (int i = 0; i < 3; ++i)
             settle();
-        auto& area = *form.template findChild<QScrollArea*>();
+        auto& area = *form.template findChild<QScrollArea*>("rows");
         area.verticalScrollBar()->setValue(0);
         return area;
     }
