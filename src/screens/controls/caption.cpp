@@ -57,7 +57,7 @@ int Caption::longestWord() const
 
 QSize Caption::minimumSizeHint() const
 {
-    return {longestWord(), fontMetrics().height()};
+    return {longestWord(), static_cast<int>(m_lines.size()) * fontMetrics().height()};
 }
 
 int Caption::heightForWidth(int width) const

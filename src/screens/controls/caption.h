@@ -21,7 +21,8 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    bool hasHeightForWidth() const override { return true; }
+    /// One that is never narrower than it asks for does not wrap.
+    bool hasHeightForWidth() const override { return sizePolicy().horizontalPolicy() != QSizePolicy::Minimum; }
     int heightForWidth(int width) const override;
 
 protected:
