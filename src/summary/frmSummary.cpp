@@ -190,9 +190,7 @@ void frmSummary::cmdTransfer_Click()
     txtSDC(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 21));
     m_rowToFill = -1;
 
-    cmdCompute.setEnabled(true);
-    cmdCompute.setFocus();
-    markNext(&cmdCompute);
+    leadTo(cmdCompute);
 }
 
 void frmSummary::typedByHand(int row)
@@ -261,8 +259,7 @@ void frmSummary::nextSrSe()
     start.txtT1(4).setText(QString::fromStdString(figures::textOf(SrSEIndex + 1)));
     chain.show<frmStart>();
     cmdCompute.setEnabled(false);
-    cmdTransfer.setFocus();  // where this screen goes on when it comes back
-    markNext(&cmdTransfer);
+    leadTo(cmdTransfer);  // when this screen comes back
 }
 
 void frmSummary::lastSrSe()
@@ -270,9 +267,7 @@ void frmSummary::lastSrSe()
     MsgAnswer = figures::toInt16(
         chain.dialogs().showMessage(*this, "Calculations for all Sr SSE's are over", "Now Total up the figures"),
         "the button");
-    cmdTotal.setEnabled(true);
-    cmdTotal.setFocus();
-    markNext(&cmdTotal);
+    leadTo(cmdTotal);
     cmdCompute.setEnabled(false);
 }
 
@@ -352,9 +347,7 @@ void frmSummary::cmdTotal_Click()
     setText(txtSDC(Total), picture(TotSDC, "#####"));
     setText(txtEx(Total), picture(TotEx, "#####"));
 
-    cmdPrint.setEnabled(true);
-    cmdPrint.setFocus();
-    markNext(&cmdPrint);
+    leadTo(cmdPrint);
     cmdExit.setEnabled(true);
     cmdExit.setVisible(true);
     cmdTotal.setVisible(false);
@@ -363,8 +356,7 @@ void frmSummary::cmdTotal_Click()
 void frmSummary::printed()
 {
     DataScreen::printed();
-    cmdExit.setFocus();
-    markNext(&cmdExit);
+    leadTo(cmdExit);
 }
 
 void frmSummary::cmdExit_Click()

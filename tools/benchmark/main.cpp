@@ -163,7 +163,7 @@ void bench(const Effort& effort)
 
     Table table(samples);
     fill(table, samples);
-    std::printf("Median of %d rounds; spread: the middle half of them; platform: %s\n\n", effort.rounds,
+    std::printf("Median of %d rounds; spread: the least and the most of them; platform: %s\n\n", effort.rounds,
                 qPrintable(qEnvironmentVariable("QT_QPA_PLATFORM").section(':', 0, 0)));
     table.print();
     printScreens(samples);

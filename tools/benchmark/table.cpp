@@ -12,7 +12,7 @@ void Table::line(const QString& text, const QString& figure, const QString& unit
     Line line{.text = text,
               .goal = "",
               .measured = written(m_samples.median(figure)) + " " + unit,
-              .spread = written(m_samples.quantile(figure, 0.25)) + " .. " + written(m_samples.quantile(figure, 0.75)),
+              .spread = written(m_samples.quantile(figure, 0.0)) + " .. " + written(m_samples.quantile(figure, 1.0)),
               .ratio = "",
               .verdict = ""};
     if (std::isfinite(goal)) {

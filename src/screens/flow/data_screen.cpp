@@ -28,17 +28,14 @@ StepScreen::StepScreen(Chain& owner, const QString& name, const QString& caption
 void StepScreen::computed(controls::Button& compute)
 {
     cmdNext.setEnabled(true);
-    cmdPrint.setEnabled(true);
-    cmdPrint.setFocus();
-    markNext(&cmdPrint);
+    leadTo(cmdPrint);
     compute.setEnabled(false);
 }
 
 void StepScreen::printed()
 {
     DataScreen::printed();
-    cmdNext.setFocus();
-    markNext(&cmdNext);
+    leadTo(cmdNext);
 }
 
 void StepScreen::cmdNext_Click()
@@ -126,9 +123,7 @@ void ImportScreen::opened()
 void ImportScreen::imported(controls::Button& compute)
 {
     m_computeOpened = true;
-    compute.setEnabled(true);
-    compute.setFocus();
-    markNext(&compute);
+    leadTo(compute);
 }
 
 void ImportScreen::enableByTyping(controls::Button& compute, std::initializer_list<controls::TextBox*> boxes)

@@ -98,6 +98,13 @@ void Screen::markNext(const QPushButton* button)
         one->setDefault(one == button);
 }
 
+void Screen::leadTo(QPushButton& button)
+{
+    button.setEnabled(true);
+    button.setFocus();
+    markNext(&button);
+}
+
 void Screen::addDate(QBoxLayout& line)
 {
     line.addStretch();
