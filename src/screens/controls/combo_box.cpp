@@ -1,6 +1,7 @@
 #include "screens/controls/combo_box.h"
 
 #include <QAccessibleWidget>
+#include <QCompleter>
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QWheelEvent>
@@ -34,9 +35,14 @@ ComboBox::ComboBox(const QString& name)
 {
     [[maybe_unused]] static const bool spoken = (QAccessible::installFactory(speak), true);
     setObjectName(name);
-    setEditable(true);
+    // A completer would turn "Machine packed" into the list's "Machine Packed". The toolkit makes one for every line
+    // that comes without, and takes longer for it than for the line.
+    static QCompleter none;
+    auto* line = new QLineEdit;
+    line->setCompleter(&none);
+    setLineEdit(line);
+    setCompleter(nullptr);
     setInsertPolicy(NoInsert);
-    setCompleter(nullptr);  // it would turn "Machine packed" into the list's "Machine Packed"
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
 }
 

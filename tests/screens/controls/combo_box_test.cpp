@@ -1,6 +1,8 @@
 #include "screens/controls/combo_box.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
@@ -103,6 +105,17 @@ TEST_F(MethodBox, TypedTextIsKeptAsTypedAndNeverCompleted)
     QTest::keyClick(&method, Qt::Key_Return);
     EXPECT_EQ(method.text(), "machine");
     EXPECT_EQ(method.count(), 2) << "the list does not grow";
+}
+
+TEST_F(MethodBox, TextOfAnInputMethodIsTaken)
+{
+    method.setFocus();
+    method.lineEdit()->selectAll();
+    EXPECT_TRUE(method.testAttribute(Qt::WA_InputMethodEnabled));
+    QInputMethodEvent event;
+    event.setCommitString("Measured");
+    QApplication::sendEvent(QApplication::focusWidget(), &event);
+    EXPECT_EQ(method.text().toStdString(), "Measured");
 }
 
 TEST_F(MethodBox, TheWheelScrollsTheRowsNeverTheChoice)
