@@ -57,27 +57,16 @@ void frmT1::layOut()
     QHBoxLayout& how = layout.headerLine();
     // The boxes that are typed stand under one another.
     section.setMinimumWidth(controls::addField(how, "Jurisdiction -", txtT1(2), 30).sizeHint().width());
-    auto* fraG = new QGroupBox("Gauge");
-    fraG->setObjectName("fraG");
-    auto* gauges = new QHBoxLayout(fraG);
-    gauges->setContentsMargins(8, 2, 8, 2);
-    for (QRadioButton* gauge : std::initializer_list<QRadioButton*>{&optBG, &optMG, &optNG})
-        gauges->addWidget(gauge);
-    how.addWidget(fraG);
+    controls::addGroup(how, "fraG", "Gauge", {&optBG, &optMG, &optNG});
     controls::addField(how, "Gauge", txtT1(3), 5);
-    auto* fraSub = new QGroupBox("Subarban Section");
-    fraSub->setObjectName("fraSub");
-    auto* suburban = new QHBoxLayout(fraSub);
-    suburban->setContentsMargins(8, 2, 8, 2);
-    suburban->addWidget(&chkSub);
-    how.addWidget(fraSub);
+    QGroupBox& suburban = controls::addGroup(how, "fraSub", "Subarban Section", {&chkSub});
     how.addStretch();
     controls::addField(how, "No of Segments ?", txtNSeg, 5);
 
     optMG.setToolTip("\"For MG sections  Maintenace has to be Manual\"");
     optNG.setToolTip("\"For NG sections the Maintenace has to be Manual\"");
     chkSub.setToolTip("\"For Subarban Sections the Maintenance has to be Mechanical\"");
-    fraSub->setToolTip(chkSub.toolTip());
+    suburban.setToolTip(chkSub.toolTip());
     txtNSeg.setToolTip("Maximum number of segments is 16");
     cmdNext.setToolTip(flow::LockTip);
     cmdPrint.setToolTip(flow::LockTip);

@@ -1,7 +1,5 @@
 #include "track/frmT4.h"
 
-#include <QGroupBox>
-
 #include "figures/conversions.h"
 #include "figures/picture.h"
 #include "track/frmT2.h"
@@ -53,12 +51,7 @@ void frmT4::layOut()
     QHBoxLayout& how = layout.headerLine();
     controls::addField(how, "Jurisdiction -", txtT1(2), 30);
     controls::addField(how, "Gauge", txtT1(3), 5);
-    auto* fraSub = new QGroupBox("Subarban Section");
-    fraSub->setObjectName("fraSub");
-    auto* suburban = new QHBoxLayout(fraSub);
-    suburban->setContentsMargins(8, 2, 8, 2);
-    suburban->addWidget(&chkSub);
-    how.addWidget(fraSub);
+    controls::addGroup(how, "fraSub", "Subarban Section", {&chkSub});
     how.addStretch();
     controls::addField(how, "No of Segments ?", txtNSeg, 5);
 

@@ -198,6 +198,19 @@ Caption& addField(QBoxLayout& line, const QString& caption, TextBox& box, int ch
     return *label;
 }
 
+QGroupBox& addGroup(QBoxLayout& line, const QString& name, const QString& heading,
+                    std::initializer_list<QAbstractButton*> buttons)
+{
+    auto* group = new QGroupBox(heading);
+    group->setObjectName(name);
+    auto* across = new QHBoxLayout(group);
+    across->setContentsMargins(8, 2, 8, 2);
+    for (QAbstractButton* button : buttons)
+        across->addWidget(button);
+    line.addWidget(group);
+    return *group;
+}
+
 void addBox(QBoxLayout& line, TextBox& box, int characters, const QString& spoken)
 {
     if (characters > 0) {

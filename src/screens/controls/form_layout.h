@@ -1,5 +1,6 @@
 #pragma once
 #include <QBoxLayout>
+#include <QGroupBox>
 #include <QList>
 #include <QScrollArea>
 
@@ -52,6 +53,9 @@ private:
 Caption& addField(QBoxLayout& line, const QString& caption, TextBox& box, int characters);
 /// A further box under the label before it.
 void addBox(QBoxLayout& line, TextBox& box, int characters, const QString& spoken);
+/// Buttons side by side in a frame with its heading.
+QGroupBox& addGroup(QBoxLayout& line, const QString& name, const QString& heading,
+                    std::initializer_list<QAbstractButton*> buttons);
 /// Width of a box that holds `characters` digits [px].
 int widthOf(const QWidget& box, int characters);
 
