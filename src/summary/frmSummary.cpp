@@ -82,6 +82,11 @@ void frmSummary::layOut()
 
     m_table = table();
     layout.addRows(m_table);
+    for (controls::Button* comesOrGoes : {&cmdTotal, &cmdExit}) {  // no other button moves under the user's hand
+        QSizePolicy policy = comesOrGoes->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        comesOrGoes->setSizePolicy(policy);
+    }
     layout.buttons({&cmdTransfer, &cmdCompute, &cmdTotal, &cmdPrint, &cmdExit});
     cmdTransfer.setToolTip(flow::LockTip);
     cmdPrint.setToolTip(flow::LockTip);

@@ -163,7 +163,7 @@ void frmT1::txtNSeg_Change()
 void frmT1::openImport()
 {
     cmdCopy.setEnabled(true);
-    withdrawAdvice();
+    advise("");
 }
 
 void frmT1::optBG_Click()

@@ -235,7 +235,10 @@ TEST_F(GrandTotal, AddsUpEveryColumnAsItStandsInTheTable)
 
 TEST_F(GrandTotal, OpensPrintAndExitAndIsDone)
 {
+    const QPoint place = find("cmdPrint").pos();
     click("cmdTotal");
+    settle();
+    EXPECT_EQ(find("cmdPrint").pos(), place) << "or one would press Exit for Print";
     EXPECT_EQ(row(15), "Total||.|.|.|.|.|||.|||");
     EXPECT_TRUE(enabled("cmdPrint"));
     EXPECT_EQ(focus(), "cmdPrint");

@@ -94,6 +94,7 @@ QString FakeDialogs::openFile(QWidget&, const QString& title, const QString& fil
 
 std::optional<flow::PrintChoice> FakeDialogs::print(QWidget&, QPrinter& printer)
 {
+    m_lastSheet = printer.docName().toStdString();
     const auto box = take(Kind::Print, "", "");
     if (!box || !box->choice)
         return std::nullopt;

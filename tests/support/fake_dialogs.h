@@ -24,6 +24,7 @@ public:
     /// Expected boxes that have not come.
     std::size_t open() const { return m_expected.size(); }
     std::string lastFolder() const { return m_lastFolder; }
+    std::string lastSheet() const { return m_lastSheet; }  ///< the name that the print dialog offers for a file
 
     bool askYesNo(QWidget& parent, const QString& title, const QString& prompt, bool defaultYes) override;
     int showCritical(QWidget& parent, const QString& title, const QString& text) override;
@@ -47,4 +48,5 @@ private:
 
     std::deque<Expected> m_expected;
     std::string m_lastFolder;
+    std::string m_lastSheet;
 };

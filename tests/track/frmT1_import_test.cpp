@@ -310,6 +310,42 @@ TEST_F(TrackImport, WithoutADataFileThereIsNoBoxAndTheGridsPlaceSaysSo)
     }
 }
 
+TEST_F(TrackImport, AnotherFileChosenSinceIsReadWhenTheScreenComesBack)
+{
+    const char* const Mixed = "The figures in the boxes are from another data file.";
+    open(sample("2-eklahra.mdb"));
+    import();
+    const std::string eklahra = record(0);
+    open(sample("2-eklahra.mdb"));
+    EXPECT_FALSE(tells(Mixed));
+
+    open(sample("1-ambapur.mdb"));
+    EXPECT_EQ(record(0), eklahra) << "the boxes are the user's";
+    EXPECT_TRUE(tells(Mixed));
+    click("cmdCopy");
+    EXPECT_EQ(record(0), "1|UP|212.4|248.9|1.2|35.6|14|22|42.6|33.5|Machine Packed");
+    EXPECT_FALSE(tells(Mixed));
+
+    open("");  // as the summary empties it for the next Sr SE
+    EXPECT_TRUE(shown("TrGrid"));
+    dialogs.expectCriticalWith("Tr Data", "There is no file");
+    open(sample("none.mdb"));
+    EXPECT_FALSE(shown("TrGrid"));
+    EXPECT_TRUE(tells("There is no file"));
+    EXPECT_EQ(record(0), "1|UP|212.4|248.9|1.2|35.6|14|22|42.6|33.5|Machine Packed");
+}
+
+TEST_F(TrackImport, AFileChosenAtLastIsReadWhenTheScreenComesBack)
+{
+    open("");
+    EXPECT_TRUE(tells("No data file chosen"));
+    open(sample("1-ambapur.mdb"));
+    EXPECT_TRUE(shown("TrGrid"));
+    EXPECT_TRUE(tells("Choose the gauge: it opens the import."));
+    import();
+    EXPECT_EQ(text("txtNSeg"), "5");
+}
+
 TEST_F(TrackImport, TheFileIsReadOnceWhenTheScreenLoads)
 {
     const frmT1& t1 = open(sample("1-ambapur.mdb"));

@@ -150,6 +150,8 @@ void Chain::bringForward(Screen& screen, const Screen* before)
     tick();
     if (first)
         screen.opened();
+    else
+        screen.shownAgain();
 }
 
 void Chain::tick()

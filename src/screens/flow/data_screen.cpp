@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "screens/flow/chain.h"
+#include "screens/flow/frmStart.h"
 
 namespace flow {
 
@@ -15,6 +16,8 @@ bool DataScreen::mayLeave()
         return true;
     const bool stay = chain.dialogs().askYesNo(*this, "Forgot to take a print of the Form !",
                                                "Do you want to take a print of the form ?", true);
+    if (stay)
+        leadTo(cmdPrint);
     return !stay;
 }
 
@@ -79,45 +82,64 @@ void ImportScreen::addGrid(controls::Button& import)
     rest.setVerticalStretch(1);  // what the rows leave is the table's
     place->setSizePolicy(rest);
     layout.addBelow(place);
+
+    connect(&import, &QAbstractButton::clicked, this, [this] {
+        m_importedFrom = m_path;
+        tell();
+    });
 }
 
 void ImportScreen::openSource(const QString& path)
 {
+    m_path = path;
+    m_reason.clear();
     if (path.trimmed().isEmpty()) {  // the box starts with blanks
-        m_message->setText("No data file chosen");
+        m_remark = "No data file chosen";
         grid.hide();
+        tell();
         return;
     }
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     store::Reading reading = chain.dataFile().read(QFile::encodeName(path).toStdString(), m_tableName.toStdString());
     QGuiApplication::restoreOverrideCursor();
-    m_message->setText(QString::fromStdString(reading.reason.empty() ? reading.notice : reading.reason));
-    if (reading.reason.empty()) {
-        grid.setTable(std::move(reading.table));
-        markNext(m_import);
+    m_reason = QString::fromStdString(reading.reason);
+    m_remark = m_reason.isEmpty() ? QString::fromStdString(reading.notice) : m_reason;
+    tell();
+    grid.setVisible(m_reason.isEmpty());
+    if (!m_reason.isEmpty())
         return;
-    }
-    grid.hide();
-    m_reason = m_message->text();
+    grid.setTable(std::move(reading.table));
+    if (!cmdNext.isEnabled())
+        markNext(m_import);
 }
 
 void ImportScreen::advise(const QString& advice)
 {
-    m_advised = m_message->text().isEmpty();
-    if (m_advised)
-        m_message->setText(advice);
+    m_advice = advice;
+    tell();
 }
 
-void ImportScreen::withdrawAdvice()
+void ImportScreen::tell()
 {
-    if (std::exchange(m_advised, false))
-        m_message->clear();
+    const bool mixed = !m_importedFrom.isEmpty() && m_importedFrom != m_path;
+    m_message->setText(!m_remark.isEmpty() ? m_remark
+                       : mixed             ? "The figures in the boxes are from another data file."
+                                           : m_advice);
 }
 
 void ImportScreen::opened()
 {
     if (!m_reason.isEmpty())
         chain.dialogs().showCritical(*this, m_sourceCaption, m_reason);
+}
+
+void ImportScreen::shownAgain()
+{
+    const QString path = chain.get<frmStart>().txtT1(1).text();
+    if (path.trimmed().isEmpty() || path == m_path)
+        return;
+    openSource(path);
+    opened();
 }
 
 void ImportScreen::imported(controls::Button& compute)

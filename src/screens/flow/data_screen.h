@@ -18,7 +18,8 @@ protected:
 
     void printed() override { Printed = 1; }
 
-    /// False if the user wants to stay and print first. Asks only while the screen has not been printed.
+    /// False if the user wants to stay and print first: Print is then next. Asks only while the screen has not been
+    /// printed.
     bool mayLeave();
 };
 
@@ -54,9 +55,9 @@ protected:
     /// to be seen, and stays to be read in the grid's place: the boxes can be typed all the same.
     void openSource(const QString& path);
 
-    /// What is to be done before the import opens, beside the table's title; a remark on the file itself goes first.
+    /// What is to be done before the import opens, "" for nothing; beside the table's title, where a remark on the file
+    /// itself goes first.
     void advise(const QString& advice);
-    void withdrawAdvice();
 
     /// The first keystroke in one of the boxes opens Compute, unless an import has done so already: typing never
     /// opens it a second time, when the figures have been computed.
@@ -70,15 +71,22 @@ protected:
     QString cell(int row, int column) const { return grid.TextMatrix(row, column); }
 
     void opened() override;
+    /// Reads the table of another data file, if the user has chosen another one since; the boxes stay as they are.
+    void shownAgain() override;
 
     controls::DataGrid grid;
 
 private:
     QString m_tableName;
     QString m_sourceCaption;
+    void tell();
+
     QLabel* m_message;
-    QString m_reason;
-    bool m_advised = false;
+    QString m_path;    // of the file that was read
+    QString m_reason;  // why it could not be
+    QString m_remark;  // on the file
+    QString m_advice;
+    QString m_importedFrom;
     const controls::Button* m_import = nullptr;
     bool m_computeOpened = false;
 };

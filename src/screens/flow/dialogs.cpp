@@ -1,6 +1,7 @@
 #include "screens/flow/dialogs.h"
 
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -10,12 +11,21 @@ namespace flow {
 
 namespace {
 
+constexpr int TitleBar = 160;  // a window manager's buttons beside the title, at a guess [px]
+
+// Leaving the box with Esc or its X is the answer that leaves everything as it is, which is the preset one everywhere.
 QMessageBox::StandardButton show(QWidget& parent, QMessageBox::Icon icon, const QString& title, const QString& text,
                                  QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset)
 {
     QMessageBox box(icon, title, text, buttons, &parent);
     box.setTextFormat(Qt::PlainText);  // a file's name may look like markup
     box.setDefaultButton(preset);
+    box.setEscapeButton(preset);
+    // The title is half of the message: the box is so wide that the title bar holds it.
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        const int wide = box.fontMetrics().horizontalAdvance(title) + TitleBar;
+        grid->addItem(new QSpacerItem(wide, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

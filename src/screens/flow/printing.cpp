@@ -33,6 +33,8 @@ public:
         QPalette paper(Qt::black, Qt::white, Qt::white, QColor(160, 160, 160), QColor(200, 200, 200), Qt::black,
                        Qt::white);
         paper.setColor(QPalette::PlaceholderText, Qt::darkGray);
+        paper.setColor(QPalette::Highlight, Qt::white);  // what is selected is of no concern on paper
+        paper.setColor(QPalette::HighlightedText, Qt::black);
         form.setPalette(paper);
     }
     ~PaperPalette() { m_form.setPalette(m_wasSet ? m_own : QPalette()); }
@@ -190,7 +192,6 @@ void printForm(QWidget& form, const QList<QWidget*>& parts, QPrinter& printer, i
 
     printer.setCopyCount(1);  // the sheet is repeated here
     printer.setResolution(Resolution);
-    printer.setDocName(form.windowTitle());
     printer.setPageOrientation(whole.width() > whole.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer.setPageMargins(QMarginsF(MarginMm, MarginMm, MarginMm, MarginMm), QPageLayout::Millimeter);
 

@@ -12,6 +12,7 @@
 #include "figures/conversions.h"
 #include "screens/controls/entry.h"
 #include "screens/flow/chain.h"
+#include "screens/flow/frmStart.h"
 #include "screens/flow/printing.h"
 
 namespace flow {
@@ -65,6 +66,8 @@ void Screen::cmdPrint_Click()
         return;
     try {
         QPrinter printer;
+        // Also the name that the dialog offers for a file: another one for each Sr SE's screen.
+        printer.setDocName(chain.get<frmStart>().txtT1(4).text() + " " + windowTitle().simplified());
         const auto choice = chain.dialogs().print(*this, printer);
         if (!choice)
             return;

@@ -23,6 +23,8 @@ public:
 
     /// Once, when the screen has first been shown.
     virtual void opened() {}
+    /// Each time it is brought back later.
+    virtual void shownAgain() {}
 
     /// Gives back the picture that the toolkit keeps of the window, 4 bytes a point. What the user sees stays; the
     /// whole window is painted anew when a covered part of it is uncovered or anything on it changes.

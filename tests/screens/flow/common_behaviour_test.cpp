@@ -68,6 +68,7 @@ TEST_F(DataScreenTest, NextOnAFormNeverPrintedAsksAndYesKeepsTheScreen)
     EXPECT_EQ(dialogs.open(), 0U);
     EXPECT_FALSE(chain.isLoaded<frmT2>());
     EXPECT_TRUE(form().isVisible());
+    EXPECT_EQ(focus(), "cmdPrint");
     expectNextAsks();  // every time
 }
 
@@ -115,6 +116,13 @@ TEST_F(DataScreenTest, ThePageRangeIsReadAndNotUsed)
     click("cmdPrint");
     EXPECT_EQ(pagesOf(pdf()), 1);
     EXPECT_EQ(form().Printed, 1);
+}
+
+TEST_F(DataScreenTest, APrintOutIsOfferedUnderANameOfItsOwn)
+{
+    chain.get<frmStart>().txtT1(4).setText("7");
+    print(1, pdf());
+    EXPECT_EQ(dialogs.lastSheet(), "7 Entering Track Data");
 }
 
 TEST_F(DataScreenTest, NoCopiesPrintNothingYetCountAsPrinted)

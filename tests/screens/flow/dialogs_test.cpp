@@ -57,10 +57,25 @@ TEST_F(DesktopDialogsTest, AQuestionOffersYesAndNoWithItsDefault)
     }
 }
 
-TEST_F(DesktopDialogsTest, AQuestionClosedWithoutAnAnswerIsNo)
+TEST_F(DesktopDialogsTest, AQuestionLeftWithoutAnAnswerIsAnsweredByItsDefaultWhichLosesNothing)
 {
-    answer<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    EXPECT_FALSE(dialogs.askYesNo(parent, "title", "prompt", true));
+    for (const bool preset : {true, false}) {
+        answer<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+        EXPECT_EQ(dialogs.askYesNo(parent, "title", "prompt", preset), preset) << "Esc";
+        answer<QMessageBox>([](QMessageBox& box) { box.close(); });
+        EXPECT_EQ(dialogs.askYesNo(parent, "title", "prompt", preset), preset) << "its X";
+    }
+}
+
+TEST_F(DesktopDialogsTest, ABoxIsWideEnoughForItsTitle)
+{
+    const QString title = "Calculations for all Sr SSE's are over";
+    answer<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_GE(box.width(), box.fontMetrics().horizontalAdvance(title) + 3 * 40)
+            << "and for three buttons beside it";
+        box.button(QMessageBox::Ok)->click();
+    });
+    dialogs.showMessage(parent, title, "Now");
 }
 
 TEST_F(DesktopDialogsTest, ACriticalBoxHasItsIconAndOkWhichIsOne)

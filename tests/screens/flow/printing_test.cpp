@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QtEndian>
 
@@ -172,6 +173,23 @@ TEST_F(PrintedForm, IsBlackOnWhiteWhateverTheTheme)
     EXPECT_EQ(form.palette(), before) << "the form on the screen keeps its theme";
     QApplication::setPalette(theme);
     EXPECT_TRUE(dark == light) << "another sheet";
+}
+
+TEST_F(PrintedForm, ShowsNothingOfWhatIsSelected)
+{
+    putRecords("TrGrid", {{"1", "5", "1"}, {"2", "", "2"}});
+    auto& grid = dynamic_cast<QTableView&>(find("TrGrid"));
+    grid.show();
+    grid.selectAll();
+    const QString sheet = drawnOn(print("selected.pdf"));
+    EXPECT_TRUE(grid.selectionModel()->hasSelection()) << "it stays on the screen";
+    static const QRegularExpression colour("([0-9.]+) ([0-9.]+) ([0-9.]+) (?:scn|SCN)");
+    int colours = 0;
+    for (auto each = colour.globalMatch(sheet); each.hasNext(); ++colours) {
+        const QRegularExpressionMatch match = each.next();
+        EXPECT_LE(match.captured(3).toDouble(), match.captured(1).toDouble() + 0.05) << match.captured().toStdString();
+    }
+    EXPECT_GT(colours, 0);
 }
 
 TEST_F(PrintedForm, LiesAcrossThePaperWhenItIsWiderThanHigh)
