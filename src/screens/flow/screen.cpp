@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QBackingStore>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QPrinter>
+#include <QScrollBar>
 #include <QWindow>
 #include <exception>
 
@@ -121,6 +123,27 @@ bool Screen::focusNextPrevChild(bool next)
     if (moved && focusWidget())
         controls::bringIntoView(*focusWidget());
     return moved;
+}
+
+// From a button one reads on by keys: where all is computed, nothing that has scrolled away can take the focus.
+void Screen::keyPressEvent(QKeyEvent* event)
+{
+    const auto scroll = [this](QScrollBar* (QScrollArea::*bar)() const, QAbstractSlider::SliderAction action) {
+        for (auto* area : findChildren<QScrollArea*>())
+            (area->*bar)()->triggerAction(action);
+    };
+    switch (event->key()) {
+    case Qt::Key_PageUp:
+        return scroll(&QScrollArea::verticalScrollBar, QAbstractSlider::SliderPageStepSub);
+    case Qt::Key_PageDown:
+        return scroll(&QScrollArea::verticalScrollBar, QAbstractSlider::SliderPageStepAdd);
+    case Qt::Key_Home:
+        return scroll(&QScrollArea::horizontalScrollBar, QAbstractSlider::SliderToMinimum);
+    case Qt::Key_End:
+        return scroll(&QScrollArea::horizontalScrollBar, QAbstractSlider::SliderToMaximum);
+    default:
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void Screen::closeEvent(QCloseEvent* event)

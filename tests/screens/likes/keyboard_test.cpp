@@ -6,6 +6,8 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <map>
 
@@ -113,6 +115,28 @@ TEST_F(Keyboard, TheWholeWayCanBeGoneWithoutAMouse)
     EXPECT_EQ(focused(), "cmdExit");
     press(Qt::Key_Return);
     EXPECT_FALSE(chain.isLoaded<frmSummary>());
+}
+
+TEST_F(Keyboard, WhatHasScrolledAwayIsReadFromAButton)
+{
+    on<frmT1>().txtNSeg.setText("16");
+    auto& form = on<frmT4>();
+    form.resize(657, 306);
+    for (int i = 0; i < 3; ++i)
+        settle();
+    EXPECT_EQ(focused(), "cmdCompute");
+    const auto& across = *form.findChild<QScrollArea*>("rows")->horizontalScrollBar();
+    const auto& down = *form.findChild<QScrollArea*>("rows")->verticalScrollBar();
+    ASSERT_GT(across.maximum(), 0);
+    ASSERT_GT(down.maximum(), 0);
+    press(Qt::Key_End);
+    EXPECT_EQ(across.value(), across.maximum());
+    press(Qt::Key_Home);
+    EXPECT_EQ(across.value(), 0);
+    press(Qt::Key_PageDown);
+    EXPECT_GT(down.value(), 0);
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(down.value(), 0);
 }
 
 // The order of tabulation
