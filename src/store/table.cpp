@@ -42,7 +42,8 @@ std::string_view Table::text(int row, int column) const
 {
     const auto missing = [this](const char* what, int number) {
         return figures::RunTimeError(figures::ErrorKind::SubscriptOutOfRange,
-                                     what + std::to_string(number) + " of table " + m_name + " is missing");
+                                     what + std::to_string(number) + " of table " + m_name +
+                                         " is missing. Type the figures, or choose a data file that holds it");
     };
     if (row < 0 || row >= rows())
         throw missing("row ", row);

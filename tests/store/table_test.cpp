@@ -82,15 +82,15 @@ TEST_P(TableSubscript, SaysWhatIsMissing)
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Cells, TableSubscript, testing::Values(
     //      name            table             row  column  message
-    Missing{"RowBelow",     track(),            4,   1, "Subscript out of range: row 4 of table TR is missing."},
-    Missing{"RowNegative",  track(),           -1,   1, "Subscript out of range: row -1 of table TR is missing."},
-    Missing{"ColumnBeyond", track(),            1,   3, "Subscript out of range: column 3 of table TR is missing."},
-    Missing{"ColumnNegative", track(),          1,  -1, "Subscript out of range: column -1 of table TR is missing."},
-    Missing{"MarginBelow",  track(),            4,   0, "Subscript out of range: row 4 of table TR is missing."},
-    Missing{"BothOutside",  track(),            9,   9, "Subscript out of range: row 9 of table TR is missing."},
-    Missing{"NoRecords",    Table("CS", {"A"}), 1,   1, "Subscript out of range: row 1 of table CS is missing."},
-    Missing{"NeverOpened",  Table("YD", {}),    1,   2, "Subscript out of range: row 1 of table YD is missing."},
-    Missing{"NotEvenHeadings", Table("YD", {}), 0,   1, "Subscript out of range: row 0 of table YD is missing."}),
+    Missing{"RowBelow",     track(),            4,   1, "Subscript out of range: row 4 of table TR is missing. Type the figures, or choose a data file that holds it."},
+    Missing{"RowNegative",  track(),           -1,   1, "Subscript out of range: row -1 of table TR is missing. Type the figures, or choose a data file that holds it."},
+    Missing{"ColumnBeyond", track(),            1,   3, "Subscript out of range: column 3 of table TR is missing. Type the figures, or choose a data file that holds it."},
+    Missing{"ColumnNegative", track(),          1,  -1, "Subscript out of range: column -1 of table TR is missing. Type the figures, or choose a data file that holds it."},
+    Missing{"MarginBelow",  track(),            4,   0, "Subscript out of range: row 4 of table TR is missing. Type the figures, or choose a data file that holds it."},
+    Missing{"BothOutside",  track(),            9,   9, "Subscript out of range: row 9 of table TR is missing. Type the figures, or choose a data file that holds it."},
+    Missing{"NoRecords",    Table("CS", {"A"}), 1,   1, "Subscript out of range: row 1 of table CS is missing. Type the figures, or choose a data file that holds it."},
+    Missing{"NeverOpened",  Table("YD", {}),    1,   2, "Subscript out of range: row 1 of table YD is missing. Type the figures, or choose a data file that holds it."},
+    Missing{"NotEvenHeadings", Table("YD", {}), 0,   1, "Subscript out of range: row 0 of table YD is missing. Type the figures, or choose a data file that holds it."}),
     [](const auto& tested) { return tested.param.name; });
 // clang-format on
 

@@ -265,7 +265,9 @@ TEST_F(SummaryScreen, WithoutADataFileTheEstablishmentIsTyped)
 {
     open("1");
     chain.get<frmT4>().txtMan3(16).setText("10000");
-    dialogs.expectCritical(Title, "Subscript out of range: row 2 of table S2 is missing.");
+    dialogs.expectCritical(
+        Title,
+        "Subscript out of range: row 2 of table S2 is missing. Type the figures, or choose a data file that holds it.");
     click("cmdTransfer");
     EXPECT_EQ(text("txtTR(0)"), "10000");
     EXPECT_FALSE(enabled("cmdCompute"));

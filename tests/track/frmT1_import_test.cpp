@@ -113,7 +113,9 @@ TEST_F(TrackImport, OfMoreRecordsThanSegmentsCopiesTheFirstOnes)
 TEST_F(TrackImport, OfFewerRecordsThanSegmentsKeepsWhatWasCopiedAndNamesTheMissingRow)
 {
     open(fixture("count-above-records.mdb"));  // says 5, holds 3
-    dialogs.expectCritical(Title, "Subscript out of range: row 4 of table TR is missing.");
+    dialogs.expectCritical(
+        Title,
+        "Subscript out of range: row 4 of table TR is missing. Type the figures, or choose a data file that holds it.");
     import();
     EXPECT_EQ(text("txtNSeg"), "5");
     EXPECT_EQ(shownOf("txtSS", 0, 15), "1111100000000000");
@@ -184,7 +186,9 @@ TEST_F(TrackImport, OfAnEmptyTableNamesItsFirstRow)
 {
     open(fixture("empty-tables.mdb"));
     EXPECT_TRUE(shown("TrGrid"));
-    dialogs.expectCritical(Title, "Subscript out of range: row 1 of table TR is missing.");
+    dialogs.expectCritical(
+        Title,
+        "Subscript out of range: row 1 of table TR is missing. Type the figures, or choose a data file that holds it.");
     import();
     EXPECT_EQ(text("txtNSeg"), "");
     EXPECT_FALSE(enabled("cmdCompute"));
@@ -193,7 +197,8 @@ TEST_F(TrackImport, OfAnEmptyTableNamesItsFirstRow)
 TEST_F(TrackImport, OfANarrowTableKeepsWhatWasCopiedAndNamesTheMissingColumn)
 {
     open(fixture("narrow-tables.mdb"));  // six columns: up to "kilometre to"
-    dialogs.expectCritical(Title, "Subscript out of range: column 7 of table TR is missing.");
+    dialogs.expectCritical(Title, "Subscript out of range: column 7 of table TR is missing. Type the figures, or "
+                                  "choose a data file that holds it.");
     import();
     EXPECT_EQ(text("txtNSeg"), "1");
     EXPECT_EQ(record(0), "1|UP|10|25|||||||Method of Maintenance");
@@ -211,8 +216,9 @@ TEST_F(TrackImport, TakesTheCellsOfARowInTheirOrder)
         chain.unload<frmT1>();
         open();
         putRecords("TrGrid", {std::vector<std::string>(whole.begin(), whole.begin() + static_cast<int>(columns))});
-        dialogs.expectCritical(Title, "Subscript out of range: column " + std::to_string(columns + 1) +
-                                          " of table TABLE is missing.");
+        dialogs.expectCritical(
+            Title, "Subscript out of range: column " + std::to_string(columns + 1) +
+                       " of table TABLE is missing. Type the figures, or choose a data file that holds it.");
         import();
         std::string expected;
         for (std::size_t field = 2; field < whole.size(); ++field)
@@ -250,7 +256,9 @@ TEST_P(RefusedFile, IsToldOnceAndTheReasonStaysInTheGridsPlace)
 
     type("txtT1(0)", "Sample Section");
     EXPECT_EQ(text("txtT1(0)"), "Sample Section");
-    dialogs.expectCritical(Title, "Subscript out of range: row 1 of table TR is missing.");
+    dialogs.expectCritical(
+        Title,
+        "Subscript out of range: row 1 of table TR is missing. Type the figures, or choose a data file that holds it.");
     import();
     t1.txtNSeg.setText("1");
     limits(0, "10", "25");
@@ -293,7 +301,9 @@ TEST_F(TrackImport, ADamagedFileWithoutRecordsLeftIsOpenAndEmpty)
     open(fixture("damaged-half.mdb"));
     EXPECT_TRUE(shown("TrGrid"));
     EXPECT_TRUE(tells("The file says 5 records, 0 could be read"));
-    dialogs.expectCritical(Title, "Subscript out of range: row 1 of table TR is missing.");
+    dialogs.expectCritical(
+        Title,
+        "Subscript out of range: row 1 of table TR is missing. Type the figures, or choose a data file that holds it.");
     import();
 }
 
@@ -304,7 +314,8 @@ TEST_F(TrackImport, WithoutADataFileThereIsNoBoxAndTheGridsPlaceSaysSo)
         open(path);
         EXPECT_FALSE(shown("TrGrid"));
         EXPECT_TRUE(tells("No data file chosen"));
-        dialogs.expectCritical(Title, "Subscript out of range: row 1 of table TR is missing.");
+        dialogs.expectCritical(Title, "Subscript out of range: row 1 of table TR is missing. Type the figures, or "
+                                      "choose a data file that holds it.");
         import();
         EXPECT_FALSE(enabled("cmdCompute"));
     }

@@ -191,7 +191,9 @@ TEST_F(GroundScreen, ImportWritesOverWhatWasTypedAndAgainTheSame)
 TEST_F(GroundScreen, ImportFromAShorterTableEndsAtTheMissingRow)
 {
     openSample("2-eklahra.mdb", 5);  // 3 records
-    dialogs.expectCritical(Title, "Subscript out of range: row 4 of table CS is missing.");
+    dialogs.expectCritical(
+        Title,
+        "Subscript out of range: row 4 of table CS is missing. Type the figures, or choose a data file that holds it.");
     click("cmdCopy");
 
     EXPECT_EQ(entered(2), "214|0|0|0|0|1.1|1.5|0.2|");  // what was copied stays
@@ -203,7 +205,9 @@ TEST_F(GroundScreen, WithoutADataFileTheRowsAreTyped)
 {
     open({"10"});
     EXPECT_TRUE(says("No data file chosen"));
-    dialogs.expectCritical(Title, "Subscript out of range: row 1 of table CS is missing.");
+    dialogs.expectCritical(
+        Title,
+        "Subscript out of range: row 1 of table CS is missing. Type the figures, or choose a data file that holds it.");
     click("cmdCopy");
     EXPECT_FALSE(enabled("cmdCompute"));
 

@@ -237,7 +237,8 @@ TEST_F(YardScreen, ImportFromAShorterTableEndsAtTheMissingRow)
 {
     open();
     putRecords("YdGrid", {{"", "3", "A", "1", "2", "3", "4", "5", "6"}, {"", "", "B", "1", "2", "3", "4", "5", "6"}});
-    dialogs.expectCritical(Title, "Subscript out of range: row 3 of table TABLE is missing.");
+    dialogs.expectCritical(Title, "Subscript out of range: row 3 of table TABLE is missing. Type the figures, or "
+                                  "choose a data file that holds it.");
     click("cmdYdata");
 
     EXPECT_EQ(row(1), "B|1|2|3|4|5|6");  // what was copied stays
@@ -249,7 +250,8 @@ TEST_F(YardScreen, ImportOfANarrowTableEndsAtTheMissingColumn)
 {
     open();
     putRecords("YdGrid", {{"", "1", "A", "1", "2"}});
-    dialogs.expectCritical(Title, "Subscript out of range: column 6 of table TABLE is missing.");
+    dialogs.expectCritical(Title, "Subscript out of range: column 6 of table TABLE is missing. Type the figures, or "
+                                  "choose a data file that holds it.");
     click("cmdYdata");
 
     EXPECT_EQ(row(0), "A|1|2||||");
@@ -271,7 +273,9 @@ TEST_F(YardScreen, ImportOfABlankCountTakesNoYardAndOpensCompute)
 TEST_F(YardScreen, AnEmptyTableIsMissingItsFirstRow)
 {
     openSample("blank.mdb", "BG");
-    dialogs.expectCritical(Title, "Subscript out of range: row 1 of table YD is missing.");
+    dialogs.expectCritical(
+        Title,
+        "Subscript out of range: row 1 of table YD is missing. Type the figures, or choose a data file that holds it.");
     click("cmdYdata");
 }
 

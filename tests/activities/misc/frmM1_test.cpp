@@ -303,7 +303,8 @@ TEST_F(PatrollingScreen, AMissingColumnEndsTheImportBehindTheBeatsBeforeIt)
 {
     open();
     putRecords("GridM1", tableOf("3", "1", 2));
-    dialogs.expectCritical(Title, "Subscript out of range: column 5 of table TABLE is missing.");
+    dialogs.expectCritical(Title, "Subscript out of range: column 5 of table TABLE is missing. Type the figures, or "
+                                  "choose a data file that holds it.");
     click("cmdData");
 
     EXPECT_EQ(beatLength(1), "c1|d1|e1|f1");  // beat length by beat length
@@ -319,7 +320,8 @@ TEST_F(PatrollingScreen, AMissingRowEndsTheImportBehindTheFirstCount)
     auto records = tableOf("2", "1", 12);
     records.resize(7);
     putRecords("GridM1", records);
-    dialogs.expectCritical(Title, "Subscript out of range: row 8 of table TABLE is missing.");
+    dialogs.expectCritical(Title, "Subscript out of range: row 8 of table TABLE is missing. Type the figures, or "
+                                  "choose a data file that holds it.");
     click("cmdData");
 
     EXPECT_EQ(text("txtNB"), "2");
@@ -332,7 +334,9 @@ TEST_F(PatrollingScreen, WithoutADataFileTheRowsAreTyped)
 {
     open();
     EXPECT_TRUE(says("No data file chosen"));
-    dialogs.expectCritical(Title, "Subscript out of range: row 2 of table M1 is missing.");
+    dialogs.expectCritical(
+        Title,
+        "Subscript out of range: row 2 of table M1 is missing. Type the figures, or choose a data file that holds it.");
     click("cmdData");
     EXPECT_FALSE(enabled("cmdCompute"));
 

@@ -140,7 +140,8 @@ TEST_F(GateScreen, AMissingRowEndsTheImportThere)
     auto records = places();
     records.resize(6);
     putRecords("GridM2", records);
-    dialogs.expectCritical(Title, "Subscript out of range: row 7 of table TABLE is missing.");
+    dialogs.expectCritical(Title, "Subscript out of range: row 7 of table TABLE is missing. Type the figures, or "
+                                  "choose a data file that holds it.");
     click("cmdData");
 
     EXPECT_EQ(figures(), "b2|c3|c4|c5|e2||");

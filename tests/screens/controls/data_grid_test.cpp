@@ -64,9 +64,13 @@ TEST_F(Grid, TextMatrixCountsHeadingsAsRowZeroAndTheMarginAsColumnZero)
 TEST_F(Grid, ACellOutsideIsASubscriptErrorThatNamesWhatIsMissing)
 {
     grid.setTable(segments(2));
-    EXPECT_EQ(errorOf(3, 1), "Subscript out of range: row 3 of table TR is missing.");
-    EXPECT_EQ(errorOf(1, 4), "Subscript out of range: column 4 of table TR is missing.");
-    EXPECT_EQ(errorOf(-1, 1), "Subscript out of range: row -1 of table TR is missing.");
+    EXPECT_EQ(
+        errorOf(3, 1),
+        "Subscript out of range: row 3 of table TR is missing. Type the figures, or choose a data file that holds it.");
+    EXPECT_EQ(errorOf(1, 4), "Subscript out of range: column 4 of table TR is missing. Type the figures, or choose a "
+                             "data file that holds it.");
+    EXPECT_EQ(errorOf(-1, 1), "Subscript out of range: row -1 of table TR is missing. Type the figures, or choose a "
+                              "data file that holds it.");
 }
 
 TEST_F(Grid, ShowsTheHeadingsAndNumbersTheRecords)
@@ -130,7 +134,8 @@ TEST_F(Grid, HoldsTwentyThousandRecordsInTheHeightOfAFew)
     grid.setTable(segments(20'000));
     EXPECT_EQ(grid.model()->rowCount(), 20'000);
     EXPECT_EQ(grid.TextMatrix(20'000, 1), "20000");
-    EXPECT_EQ(errorOf(20'001, 1), "Subscript out of range: row 20001 of table TR is missing.");
+    EXPECT_EQ(errorOf(20'001, 1), "Subscript out of range: row 20001 of table TR is missing. Type the figures, or "
+                                  "choose a data file that holds it.");
     EXPECT_LT(grid.sizeHint().height(), 500);
     EXPECT_LT(grid.minimumSizeHint().height(), 150);
     grid.resize(400, 200);
