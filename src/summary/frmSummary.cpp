@@ -195,6 +195,7 @@ void frmSummary::cmdTransfer_Click()
     txtSDC(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 21));
     m_rowToFill = -1;
 
+    cmdCompute.setEnabled(true);
     leadTo(cmdCompute);
 }
 
@@ -272,6 +273,7 @@ void frmSummary::lastSrSe()
     MsgAnswer = figures::toInt16(
         chain.dialogs().showMessage(*this, "Calculations for all Sr SSE's are over", "Now Total up the figures"),
         "the button");
+    cmdTotal.setEnabled(true);
     leadTo(cmdTotal);
     cmdCompute.setEnabled(false);
 }
@@ -352,6 +354,7 @@ void frmSummary::cmdTotal_Click()
     setText(txtSDC(Total), picture(TotSDC, "#####"));
     setText(txtEx(Total), picture(TotEx, "#####"));
 
+    cmdPrint.setEnabled(true);
     leadTo(cmdPrint);
     cmdExit.setEnabled(true);
     cmdExit.setVisible(true);

@@ -218,8 +218,8 @@ void frmT1::cmdCopy_Click()
         txtLWR(i).setText(cell(i + 1, 12));
         cboMtc(i).setText(cell(i + 1, 13));
     }
-    cmdCompute.setFocus();
-    markNext(&cmdCompute);
+    imported();
+    leadTo(cmdCompute);
 }
 
 void frmT1::cmdCompute_Click()

@@ -343,7 +343,34 @@ TEST_F(TrackImport, AnotherFileChosenSinceIsReadWhenTheScreenComesBack)
     open(sample("none.mdb"));
     EXPECT_FALSE(shown("TrGrid"));
     EXPECT_TRUE(tells("There is no file"));
+    EXPECT_TRUE(tells(Mixed));
+    dialogs.expectCriticalWith(Title, "row 1 of table TR is missing");
+    click("cmdCopy");
+    EXPECT_TRUE(tells(Mixed)) << "nothing came from there";
     EXPECT_EQ(record(0), "1|UP|212.4|248.9|1.2|35.6|14|22|42.6|33.5|Machine Packed");
+}
+
+TEST_F(TrackImport, AFailedImportLeavesNoFiguresOfAnotherFile)
+{
+    dialogs.expectCriticalWith("Tr Data", "There is no file");
+    open(sample("none.mdb"));
+    dialogs.expectCriticalWith(Title, "row 1 of table TR is missing");
+    import();
+    open(sample("1-ambapur.mdb"));
+    EXPECT_FALSE(tells("another data file"));
+}
+
+TEST_F(TrackImport, AComputedScreenKeepsItsTable)
+{
+    frmT1& t1 = open(sample("2-eklahra.mdb"));
+    import();
+    click("cmdCompute");
+    ASSERT_TRUE(t1.cmdNext.isEnabled());
+    const int rows = dynamic_cast<const controls::DataGrid&>(find("TrGrid")).model()->rowCount();
+    open(sample("1-ambapur.mdb"));
+    EXPECT_EQ(dynamic_cast<const controls::DataGrid&>(find("TrGrid")).model()->rowCount(), rows);
+    EXPECT_NE(rows, 5) << "as many as Ambapur has";
+    EXPECT_FALSE(tells("another data file"));
 }
 
 TEST_F(TrackImport, AFileChosenAtLastIsReadWhenTheScreenComesBack)

@@ -161,7 +161,9 @@ void bringIntoView(QWidget& box)
         if (auto* area = qobject_cast<QScrollArea*>(above)) {
             // By its middle: for a box to type in the area would look at the cursor alone.
             const QPoint middle = box.mapTo(area->widget(), box.rect().center());
-            area->ensureVisible(middle.x(), middle.y(), box.width(), pinned + box.height());
+            const QSize room = area->viewport()->size() / 2;
+            area->ensureVisible(middle.x(), middle.y(), std::min(box.width(), room.width()),
+                                std::min(pinned + box.height(), room.height()));
             pinned = 0;  // the headings are the inner area's; the one around it may scroll as a whole
         }
     }

@@ -31,6 +31,7 @@ StepScreen::StepScreen(Chain& owner, const QString& name, const QString& caption
 void StepScreen::computed(controls::Button& compute)
 {
     cmdNext.setEnabled(true);
+    cmdPrint.setEnabled(true);
     leadTo(cmdPrint);
     compute.setEnabled(false);
 }
@@ -58,7 +59,6 @@ ImportScreen::ImportScreen(Chain& owner, const QString& name, const QString& cap
     m_message->setTextFormat(Qt::PlainText);
     m_message->setWordWrap(true);
     grid.setAccessibleName(sourceCaption);
-    grid.setTable(store::Table(tableName.toStdString(), {}));  // an import before any file names what is missing
 }
 
 void ImportScreen::addGrid(controls::Button& import)
@@ -82,18 +82,14 @@ void ImportScreen::addGrid(controls::Button& import)
     rest.setVerticalStretch(1);  // what the rows leave is the table's
     place->setSizePolicy(rest);
     layout.addBelow(place);
-
-    connect(&import, &QAbstractButton::clicked, this, [this] {
-        m_importedFrom = m_path;
-        tell();
-    });
 }
 
 void ImportScreen::openSource(const QString& path)
 {
     m_path = path;
     m_reason.clear();
-    if (path.trimmed().isEmpty()) {  // the box starts with blanks
+    grid.setTable(store::Table(m_tableName.toStdString(), {}));  // an import names what is missing
+    if (path.trimmed().isEmpty()) {                              // the box starts with blanks
         m_remark = "No data file chosen";
         grid.hide();
         tell();
@@ -109,8 +105,7 @@ void ImportScreen::openSource(const QString& path)
     if (!m_reason.isEmpty())
         return;
     grid.setTable(std::move(reading.table));
-    if (!cmdNext.isEnabled())
-        markNext(m_import);
+    markNext(m_import);
 }
 
 void ImportScreen::advise(const QString& advice)
@@ -122,9 +117,9 @@ void ImportScreen::advise(const QString& advice)
 void ImportScreen::tell()
 {
     const bool mixed = !m_importedFrom.isEmpty() && m_importedFrom != m_path;
-    m_message->setText(!m_remark.isEmpty() ? m_remark
-                       : mixed             ? "The figures in the boxes are from another data file."
-                                           : m_advice);
+    QStringList texts{m_remark, mixed ? "The figures in the boxes are from another data file." : ""};
+    texts.removeAll("");
+    m_message->setText(texts.isEmpty() ? m_advice : texts.join(' '));
 }
 
 void ImportScreen::opened()
@@ -136,15 +131,23 @@ void ImportScreen::opened()
 void ImportScreen::shownAgain()
 {
     const QString path = chain.get<frmStart>().txtT1(1).text();
-    if (path.trimmed().isEmpty() || path == m_path)
+    if (cmdNext.isEnabled() || path.trimmed().isEmpty() || path == m_path)
         return;
     openSource(path);
     opened();
 }
 
+void ImportScreen::imported()
+{
+    m_importedFrom = m_path;
+    tell();
+}
+
 void ImportScreen::imported(controls::Button& compute)
 {
+    imported();
     m_computeOpened = true;
+    compute.setEnabled(true);
     leadTo(compute);
 }
 

@@ -64,23 +64,26 @@ protected:
     void enableByTyping(controls::Button& compute, std::initializer_list<controls::TextBox*> boxes);
     void enableByTyping(controls::Button& compute, const controls::ControlArray<controls::TextBox>& boxes);
 
-    /// An import that ended well: Compute is next.
+    /// To be called by every import that ended well.
+    void imported();
+    /// The same where Compute waits for it: Compute is next.
     void imported(controls::Button& compute);
 
     /// A cell of the grid as text.
     QString cell(int row, int column) const { return grid.TextMatrix(row, column); }
 
     void opened() override;
-    /// Reads the table of another data file, if the user has chosen another one since; the boxes stay as they are.
+    /// Reads the table of another data file, if the user has chosen another one before Compute; the boxes stay as they
+    /// are. A screen that is computed keeps its table too: the summary takes figures from it.
     void shownAgain() override;
 
     controls::DataGrid grid;
 
 private:
-    QString m_tableName;
-    QString m_sourceCaption;
     void tell();
 
+    QString m_tableName;
+    QString m_sourceCaption;
     QLabel* m_message;
     QString m_path;    // of the file that was read
     QString m_reason;  // why it could not be

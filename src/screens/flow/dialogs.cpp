@@ -13,7 +13,7 @@ namespace {
 
 constexpr int TitleBar = 160;  // a window manager's buttons beside the title, at a guess [px]
 
-// Leaving the box with Esc or its X is the answer that leaves everything as it is, which is the preset one everywhere.
+// A question left with Esc or by its X has its preset answer, which is the one that leaves everything as it is.
 QMessageBox::StandardButton show(QWidget& parent, QMessageBox::Icon icon, const QString& title, const QString& text,
                                  QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset)
 {

@@ -105,7 +105,6 @@ void Screen::markNext(const QPushButton* button)
 
 void Screen::leadTo(QPushButton& button)
 {
-    button.setEnabled(true);
     button.setFocus();
     markNext(&button);
 }
@@ -132,6 +131,8 @@ void Screen::keyPressEvent(QKeyEvent* event)
         for (auto* area : findChildren<QScrollArea*>())
             (area->*bar)()->triggerAction(action);
     };
+    if (event->modifiers() & ~Qt::KeypadModifier)
+        return QWidget::keyPressEvent(event);
     switch (event->key()) {
     case Qt::Key_PageUp:
         return scroll(&QScrollArea::verticalScrollBar, QAbstractSlider::SliderPageStepSub);

@@ -65,7 +65,7 @@ protected:
 
     /// Marks the button that the user is to press next, as long as it is enabled, and no other.
     void markNext(const QPushButton* button);
-    /// Opens that button and gives it the focus as well: Enter goes on.
+    /// Gives that button the focus as well: Enter goes on.
     void leadTo(QPushButton& button);
 
     /// The handler runs unless a box waits for an answer: a press that a mnemonic, a tool or a screen reader sends a
