@@ -34,7 +34,7 @@ int main(int argc, char* argv[])
     QApplication::setDesktopFileName("crewmark");  // whose windows these are, for the desktop
     Q_INIT_RESOURCE(drawings);
     QApplication::setWindowIcon(QIcon(":/crewmark.svg"));
-    QApplication::setCursorFlashTime(0);  // a blinking cursor would wake the machine, and paint, twice a second
+    QApplication::setCursorFlashTime(0);             // a blinking cursor would repaint twice a second
     QApplication::setQuitOnLastWindowClosed(false);  // the chain knows when the last screen may go
 
     flow::DesktopDialogs dialogs;

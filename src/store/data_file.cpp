@@ -39,11 +39,6 @@ bool isImpossible(const std::filesystem::path& path)
     return path.empty() || path.native().size() >= PATH_MAX || path.native().find('\0') != std::string::npos;
 }
 
-Reading refused(Refusal refusal, const Asked& asked)
-{
-    return {Table(asked.table, {}), reasonFor(refusal, asked), ""};
-}
-
 Reading readingOf(const ReaderRun& run, const Asked& asked)
 {
     switch (run.ending) {

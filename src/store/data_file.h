@@ -16,7 +16,7 @@ struct Reading {
     std::string notice;
 };
 
-/// The Sr SE data file. Never writes to it, never throws, never takes longer than the deadline.
+/// The Sr SE data file. Never writes to it, never throws, never takes much longer than the deadline.
 class DataFile {
 public:
     /// `reader` is the program that reads Access files; the one of this installation if not given.

@@ -96,11 +96,6 @@ void reserveFor(Table& table, std::size_t outputBytes)
     table.reserve(outputBytes, outputBytes / leastCell);
 }
 
-Reading refused(Refusal refusal, const Asked& asked)
-{
-    return {Table(asked.table, {}), reasonFor(refusal, asked), ""};
-}
-
 Reading parse(Cursor cursor, std::size_t size, const Asked& asked)
 {
     if (cursor.take(wire::Greeting.size()) != wire::Greeting)
@@ -139,6 +134,11 @@ Reading parse(Cursor cursor, std::size_t size, const Asked& asked)
 }
 
 }  // namespace
+
+Reading refused(Refusal refusal, const Asked& asked)
+{
+    return {Table(asked.table, {}), reasonFor(refusal, asked), ""};
+}
 
 Reading parseReaderOutput(std::string_view bytes, const Asked& asked)
 {

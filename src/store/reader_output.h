@@ -9,4 +9,7 @@ namespace store {
 /// Reads the reader's output, of which nothing is trusted: any bytes give an open table or a reason.
 Reading parseReaderOutput(std::string_view bytes, const Asked& asked);
 
+/// No table, and the reason in plain words.
+Reading refused(Refusal refusal, const Asked& asked);
+
 }  // namespace store

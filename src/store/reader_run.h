@@ -20,8 +20,8 @@ struct ReaderRun {
 };
 
 /// Runs `arguments` (the program's path first) with no input, an empty environment and no other open file, and
-/// collects what it writes. Returns before long behind the deadline, whatever the program does; no process of it
-/// is left then.
+/// collects what it writes. Returns at the latest shortly after the deadline, whatever the program does; no
+/// process of it is left then.
 ReaderRun runReader(const std::vector<std::string>& arguments, std::chrono::milliseconds deadline);
 
 }  // namespace store

@@ -173,6 +173,14 @@ int frmSummary::row() const
 
 void frmSummary::cmdTransfer_Click()
 {
+    // Pressed before the next Sr SE's screens have been worked, it finds none of them.
+    chain.lookBack([this] { takeOver(); });
+    cmdCompute.setEnabled(true);
+    leadTo(cmdCompute);
+}
+
+void frmSummary::takeOver()
+{
     SrSEIndex = valueOf(chain.get<frmStart>().txtT1(4));
     const int r = row();
 
@@ -185,7 +193,7 @@ void frmSummary::cmdTransfer_Click()
     const auto& s2 = chain.get<frmS2>();
     txtS(r).setText(s2.txtMan20.text());
 
-    // Without them, a shown row waits for the figures to be typed.
+    // If the file has no establishment figures, the row waits for them to be typed.
     m_rowToFill = r;
     if (!txtKey(r).isHidden())
         goTo(txtKey(r));
@@ -194,9 +202,6 @@ void frmSummary::cmdTransfer_Click()
     txtSS(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 20));
     txtSDC(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 21));
     m_rowToFill = -1;
-
-    cmdCompute.setEnabled(true);
-    leadTo(cmdCompute);
 }
 
 void frmSummary::typedByHand(int row)
@@ -247,7 +252,7 @@ void frmSummary::nextSrSe()
     MsgAnswer = figures::toInt16(
         chain.dialogs().showMessage(*this, "Proceed for Next Subordinate", "Continue for Next Sr SSE on the Division"),
         "the button");
-    if (MsgAnswer != flow::Dialogs::Ok)
+    if (MsgAnswer != flow::Dialogs::Ok || !chain.isLoaded<frmSummary>())  // the program may have ended meanwhile
         return;
     chain.unload<frmT1>();
     chain.unload<frmT2>();

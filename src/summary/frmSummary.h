@@ -2,13 +2,14 @@
 #include <array>
 
 #include "screens/flow/data_screen.h"
+#include "screens/flow/frmStart.h"
 #include "summary/strength.h"
 
 /// The division: one row for each Sr SE, its strength against the sanctioned posts, and the totals. The last screen of
 /// the chain; it stays while the others come and go with each Sr SE, so it asks the chain for them when it reads them.
 class frmSummary : public flow::DataScreen {
 public:
-    static constexpr int MostSrSes = 15;
+    static constexpr int MostSrSes = frmStart::MostSrSes;
     static constexpr int Total = MostSrSes;  ///< the row of totals
     static constexpr int Rows = MostSrSes + 1;
 
@@ -88,6 +89,7 @@ private:
     controls::RowSheet* table();
     void showRow(int row);
     void markShortage(int row);
+    void takeOver();
     void typedByHand(int row);
     int row() const;
     void nextSrSe();

@@ -33,9 +33,7 @@ frmT1::frmT1(flow::Chain& owner, const frmStart& start)
 
     openSource(start.txtT1(1).text());
     advise("Choose the gauge: it opens the import.");
-    txtT1(1).setText(start.txtT1(0).text());
-    txtT1(4).setText(start.txtT1(4).text());
-    DataFilePath = start.txtT1(1).text();
+    takeSrSe();
 
     onChange(txtNSeg, &frmT1::txtNSeg_Change);
     onClick(optBG, &frmT1::optBG_Click);
@@ -44,6 +42,21 @@ frmT1::frmT1(flow::Chain& owner, const frmStart& start)
     onClick(chkSub, &frmT1::chkSub_Click);
     onClick(cmdCopy, &frmT1::cmdCopy_Click);
     onClick(cmdCompute, &frmT1::cmdCompute_Click);
+}
+
+void frmT1::takeSrSe()
+{
+    txtT1(1).setText(m_start.txtT1(0).text());
+    txtT1(4).setText(m_start.txtT1(4).text());
+    DataFilePath = m_start.txtT1(1).text();
+}
+
+// A name that was forgotten or mistyped would otherwise be missing on every sheet of the Sr SE.
+void frmT1::shownAgain()
+{
+    ImportScreen::shownAgain();
+    if (!cmdNext.isEnabled())
+        takeSrSe();
 }
 
 void frmT1::layOut()

@@ -19,7 +19,8 @@ public:
     controls::ControlArray<controls::TextBox> txtT1{"txtT1", 5};
     controls::TextBox txtNSeg{"txtNSeg"};  ///< read by frmT4
 
-    // The segments. Read by frmT2 (txtSS, txtEqtkm), frmT4 (all but the kilometres) and the summary (txtTkm).
+    // The segments. Read by frmT2 (txtSS, txtEqtkm), frmT4 (all but line, kilometres and welded rail) and the summary
+    // (txtTkm).
     controls::ControlArray<controls::TextBox> txtSS{"txtSS", MostSegments};
     controls::ControlArray<controls::ComboBox> cboLn{"cboLn", MostSegments};
     controls::ControlArray<controls::TextBox> txtKmf{"txtKmf", MostSegments};
@@ -63,6 +64,8 @@ public:
     double SrSeIndexAtCompute = 0.0;
 
     QWidget* firstBox() override { return &txtT1(0); }
+    /// Takes the Sr SE from the start screen anew, as long as nothing is computed.
+    void shownAgain() override;
 
 private:
     void txtNSeg_Change();
@@ -75,6 +78,7 @@ private:
 
     QWidget* boxOf(const figures::RunTimeError& error) override;
 
+    void takeSrSe();
     void layOut();
     controls::RowSheet* segmentRows();
     void showRow(int i, bool shown);

@@ -26,7 +26,7 @@ frmT2::frmT2(flow::Chain& owner, const frmStart& start, const frmT1& t1)
     for (int i = 0; i < t1.SegCount; ++i) {
         txtSS(i).setText(t1.txtSS(i).text());
         txtEqtkm(i).setText(t1.txtEqtkm(i).text());
-        // Nothing can be divided by a length of 0: left open, it is not the end of the way for the whole Sr SE.
+        // A length of 0 cannot be divided by: the box stays open, so that the user can type one and go on.
         txtEqtkm(i).setLocked(valueOf(txtEqtkm(i)) != 0);
     }
 

@@ -85,11 +85,30 @@ TEST(Confine, NoProgramIsStartedAndNoConnectionMade)
     EXPECT_EQ(statusAfter([] { return refused(execl("/bin/true", "true", nullptr)); }), 0);
     EXPECT_EQ(statusAfter([] { return refused(socket(AF_INET, SOCK_STREAM, 0)); }), 0);
     EXPECT_EQ(statusAfter([] { return refused(socket(AF_UNIX, SOCK_STREAM, 0)); }), 0);
-    EXPECT_EQ(statusAfter([] { return refused(kill(getppid(), 0)); }), 0);
 #if defined(__x86_64__)
     constexpr long secondSet = 0x40000000;
     EXPECT_EQ(statusAfter([] { return refused(syscall(secondSet | SYS_getpid)); }), 0);
 #endif
+}
+
+// A reader that a file has taken over could end the program, with all that stands on its screens.
+TEST(Confine, TheProgramThatStartedItIsLeftAlone)
+{
+    if (!hasSystemCallFilter())
+        GTEST_SKIP() << "this kernel has no filter of system calls";
+    siginfo_t queued{};
+    queued.si_code = SI_QUEUE;
+    const rlimit none{};
+    EXPECT_EQ(statusAfter([] { return refused(kill(getppid(), 0)); }), 0);
+    EXPECT_EQ(statusAfter([] { return refused(syscall(SYS_tkill, getppid(), 0)); }), 0);
+    EXPECT_EQ(statusAfter([] { return refused(syscall(SYS_tgkill, getppid(), getppid(), 0)); }), 0);
+    EXPECT_EQ(statusAfter([&] { return refused(syscall(SYS_rt_sigqueueinfo, getppid(), 0, &queued)); }), 0);
+    EXPECT_EQ(statusAfter([&] { return refused(syscall(SYS_rt_tgsigqueueinfo, getppid(), getppid(), 0, &queued)); }),
+              0);
+    EXPECT_EQ(statusAfter([&] { return refused(prlimit(getppid(), RLIMIT_FSIZE, nullptr, nullptr)); }), 0);
+    EXPECT_EQ(statusAfter([&] { return refused(prlimit(getppid(), RLIMIT_CPU, &none, nullptr)); }), 0);
+    // Without the filter this would fail for the file, which does not exist.
+    EXPECT_EQ(statusAfter([] { return refused(syscall(SYS_pidfd_send_signal, -1, 0, nullptr, 0)); }), 0);
 }
 
 TEST(Confine, FilesThatAreOpenAreReadOn)

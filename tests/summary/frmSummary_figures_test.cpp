@@ -175,6 +175,28 @@ TEST_F(SummaryScreen, TheNextSrSeFindsEmptyScreens)
     EXPECT_EQ(chain.get<frmS2>().txtMan20.text().toStdString(), "");
 }
 
+// The screens of 'T' and 'R' and of the formation take their rows as they are made: made before the track is entered,
+// they would have none.
+TEST_F(SummaryScreen, ATransferBeforeTheNextSrSeIsWorkedLeavesItsScreensToBeMade)
+{
+    open("2");
+    work("1", {"10000", "2000", "1000"}, {"10", "3", "40", "5"});
+    click("cmdTransfer");
+    dialogs.expectMessage("Proceed for Next Subordinate", "Continue for Next Sr SSE on the Division");
+    click("cmdCompute");
+    on<frmSummary>();
+    dialogs.expectCriticalWith(Title, "row 2");
+    click("cmdTransfer");
+    EXPECT_EQ(row(0), "1|Sr SE Ambapur||10000|2000|1000|13000.|10|3|50|40|5|-5");
+    EXPECT_FALSE(chain.isLoaded<frmT1>() || chain.isLoaded<frmT2>() || chain.isLoaded<frmT4>() ||
+                 chain.isLoaded<frmM2>() || chain.isLoaded<frmS2>());
+
+    on<frmStart>();
+    type("txtT1(0)", "Sr SE Bhimpur");
+    on<frmT1>();
+    EXPECT_EQ(text("txtT1(1)"), "Sr SE Bhimpur");
+}
+
 TEST_F(SummaryScreen, TheLastSrSeOpensGrandTotalAndKeepsTheScreens)
 {
     const frmSummary& form = open("3");

@@ -384,6 +384,23 @@ TEST_F(TrackImport, AFileChosenAtLastIsReadWhenTheScreenComesBack)
     EXPECT_EQ(text("txtNSeg"), "5");
 }
 
+TEST_F(TrackImport, ANameGivenAtLastIsTakenWhenTheScreenComesBack)
+{
+    frmT1& t1 = open("");
+    EXPECT_EQ(text("txtT1(1)"), std::string(18, ' ')) << "as the start screen begins";
+    chain.get<frmStart>().txtT1(0).setText("Sr SE Amlapur");
+    open(sample("1-ambapur.mdb"));
+    EXPECT_EQ(text("txtT1(1)"), "Sr SE Amlapur");
+    EXPECT_EQ(t1.DataFilePath.toStdString(), sample("1-ambapur.mdb"));
+
+    import();
+    click("cmdCompute");
+    ASSERT_TRUE(t1.cmdNext.isEnabled());
+    chain.get<frmStart>().txtT1(0).setText("Sr SE Bhimpur");
+    on<frmT1>();
+    EXPECT_EQ(text("txtT1(1)"), "Sr SE Amlapur") << "the figures are computed under this name";
+}
+
 TEST_F(TrackImport, TheFileIsReadOnceWhenTheScreenLoads)
 {
     const frmT1& t1 = open(sample("1-ambapur.mdb"));

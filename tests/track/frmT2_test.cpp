@@ -127,7 +127,10 @@ TEST_F(GroundScreen, BoxesAreNamedToPeopleWhoListen)
 {
     open({"10", "20"});
     EXPECT_EQ(find("txtRain(1)").accessibleName(), "Rainfall in cms, segment 2");
-    EXPECT_TRUE(find("txtTout2(0)").accessibleName().endsWith("unstable, turnouts, segment 1"));
+    EXPECT_EQ(find("txtTout1(0)").accessibleName(),
+              "-------- Type of Formation ------ Shrinkable T/outs, shrinkable, turnouts, segment 1");
+    EXPECT_EQ(find("txtTout2(0)").accessibleName(),
+              "-------- Type of Formation ------ unstable T/outs, unstable, turnouts, segment 1");
     EXPECT_TRUE(find("txtABC(0)").accessibleName().endsWith("1+A+B+C, segment 1"));
 }
 

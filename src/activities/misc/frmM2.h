@@ -37,7 +37,7 @@ public:
     controls::Button cmdData{"cmdData", "&Data from File"};
     controls::Button cmdCompute{"cmdCompute", "&Compute"};
 
-    float TotalMandays = 0.0F;  ///< all of 'M', a single; read by the summary
+    float TotalMandays = 0.0F;  ///< all of 'M', a single
 
     QWidget* firstBox() override { return &txtNLC; }
 

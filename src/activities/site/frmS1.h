@@ -50,6 +50,6 @@ private:
     controls::Section* sharpCurves();
     float lengthOf(int i) const;
 
-    // What every Compute adds to, from the day the screen is loaded.
+    // What every Compute adds to, since the screen was loaded.
     std::array<double, Kinds> m_trackMetres{};  ///< [m of track]
 };

@@ -56,8 +56,6 @@ constexpr int CountCharacters = 2;
 constexpr int ValueCharacters = 5;
 constexpr int YearCharacters = 6;
 constexpr int ResultCharacters = 6;
-constexpr int ColumnSpacing = 24;
-constexpr int SectionSpacing = 10;
 
 // A count under the boxes' captions, one of which is `wide`; behind it its limit as a note and the activity's result.
 void addCount(Section& section, const QString& caption, const Caption& wide, TextBox& count, const QString& note,
@@ -109,25 +107,15 @@ void frmS2::layOut(const frmT1& t1)
     track::addHeader(who, t1, txtT1);
     addDate(who);
 
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(ColumnSpacing);
-    layout.sections().addLayout(columns);
-    const auto column = [&](std::initializer_list<Section*> sections) {
-        auto* down = new QVBoxLayout;
-        down->setSpacing(SectionSpacing);
-        for (Section* section : sections)
-            down->addWidget(section);
-        down->addStretch();
-        columns->addLayout(down);
-    };
-    column(
-        {badFormations(), lookOut(),
-         pastYears("S.7-Fogsignal man duty-", "Total mandays actually utilised in     the past 3  years for this duty-",
-                   FogSignalYears, txtMan16)});
-    column({filthRemoval(),
-            pastYears("S.9-Security Patrolling-",
-                      "Total mandays actually utilised in    the past 3 years for this duty-", SecurityYears, txtMan18),
-            waterLevels(t1.chkSub.checkState() == Qt::Checked)});
+    layout.sections(
+        {{badFormations(), lookOut(),
+          pastYears("S.7-Fogsignal man duty-",
+                    "Total mandays actually utilised in     the past 3  years for this duty-", FogSignalYears,
+                    txtMan16)},
+         {filthRemoval(),
+          pastYears("S.9-Security Patrolling-", "Total mandays actually utilised in    the past 3 years for this duty-",
+                    SecurityYears, txtMan18),
+          waterLevels(t1.chkSub.checkState() == Qt::Checked)}});
 
     QHBoxLayout& sum = layout.lineBelow();
     sum.addStretch();

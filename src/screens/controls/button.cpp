@@ -13,10 +13,10 @@ Button::Button(const QString& name, const QString& caption)
 
 void Button::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         QPushButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat())  // each button leads to the next: Enter held down would press them all
+        click();
 }
 
 }  // namespace controls

@@ -29,7 +29,7 @@ QString Caption::spokenOver(int column, int columns) const
 {
     QStringList words;
     for (const QStringList& line : m_lines)
-        words += line[line.size() == columns ? column : 0];
+        words += line[column * line.size() / columns];
     return words.join(' ').simplified();
 }
 

@@ -46,8 +46,6 @@ public:
     /// One more than the highest index.
     int size() const { return static_cast<int>(m_boxes.size()); }
 
-    const QString& name() const { return m_name; }
-
 private:
     std::unique_ptr<Box> make(int index) const
     {

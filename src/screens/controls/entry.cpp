@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <algorithm>
+#include <cstdlib>
 #include <vector>
 
 #include "screens/controls/combo_box.h"

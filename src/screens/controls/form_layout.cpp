@@ -12,7 +12,7 @@ namespace {
 
 constexpr int Margin = 10;
 constexpr int Spacing = 6;
-constexpr int SectionSpacing = 12;
+constexpr int SectionSpacing = 10;
 constexpr int ColumnSpacing = 24;
 constexpr int LongestFigure = 12;  // [characters]
 constexpr int NarrowestName = 9;   // [characters]: where the desktop is scaled, long boxes give way first

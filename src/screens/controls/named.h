@@ -10,7 +10,7 @@ namespace controls {
 template <class Widget>
 class Named : public Widget {
 public:
-    explicit Named(const QString& name, const QString& caption = {})
+    explicit Named(const QString& name, const QString& caption)
     {
         Widget::setObjectName(name);
         Widget::setText(caption);

@@ -44,7 +44,7 @@ QString plain(double value)
     QString text = QString::fromStdString(figures::picture(value, "#.######"));
     if (text.endsWith('.'))
         text.chop(1);
-    return text.isEmpty() || text == "-" ? QString("0") : text;
+    return text.isEmpty() ? QString("0") : text;
 }
 
 }  // namespace
@@ -172,7 +172,7 @@ void TextBox::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
     const bool left = event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
-    if (left && !isLocked())
+    if (left && (m_numeric || !isLocked()))
         setCursorPosition(0);
 }
 

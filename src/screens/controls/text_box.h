@@ -51,7 +51,7 @@ double valueOf(const TextBox& box);
 /// The whole number of rows that a count box asks for, 0 to `limit`. A larger count is rewritten to the limit, which
 /// fires the box's change once more.
 int countOf(TextBox& box, int limit);
-/// Puts something else under the user's hands: the cursor stays where he types.
+/// Replaces the text while the user is typing; the cursor keeps its place.
 void rewrite(TextBox& box, const QString& text);
 void setText(TextBox& box, const std::string& text);
 

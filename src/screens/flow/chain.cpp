@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDate>
 #include <QLocale>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QThread>
@@ -47,6 +48,19 @@ Screen& Chain::loaded(Link& link)
     if (!link.screen)
         link.screen = link.make(*this);
     return *link.screen;
+}
+
+void Chain::lookBack(const std::function<void()>& reading)
+{
+    std::vector<Link*> absent;
+    for (Link& link : m_links)
+        if (!link.screen)
+            absent.push_back(&link);
+    const auto takeOff = qScopeGuard([&] {
+        for (Link* link : absent)
+            unload(*link);
+    });
+    reading();
 }
 
 void Chain::showNextAfter(const Screen& screen)
@@ -165,7 +179,7 @@ void Chain::tick()
         if (link.screen && link.screen->isVisible() && !link.screen->isMinimized())
             link.screen->Timer1_Timer(m_date);
 
-    // Ten screens stand one behind the other, and the pictures of nine would be more than all else together.
+    // The toolkit's pictures of nine covered windows would take more memory than everything else.
     const Screen* const front = inFront();
     for (const Link& link : m_links)
         if (link.screen && link.screen.get() != front)

@@ -40,6 +40,10 @@ public:
         return m_links[indexOf(typeid(Form))].screen != nullptr;
     }
 
+    /// Lets `reading` ask for screens. Those that are made for it alone are taken off again: made before their turn,
+    /// they would keep what the screens before them held then.
+    void lookBack(const std::function<void()>& reading);
+
     /// Brings the screen to the front, makes it first if need be.
     template <class Form>
     Form& show()

@@ -17,7 +17,6 @@ using controls::TextBox;
 
 namespace {
 
-constexpr int MostSrSes = 15;
 const QString EmptyAtStart(18, ' ');
 
 const char* const Introduction =

@@ -8,10 +8,12 @@ class QLabel;
 /// whole run; its boxes are what every later screen reads.
 class frmStart : public flow::Screen {
 public:
+    static constexpr int MostSrSes = 15;
+
     explicit frmStart(flow::Chain& chain);
 
     /// 0 Sr SE, 1 path of the data file, 2 division, 3 number of Sr SEs, 4 index, 5 railway.
-    /// Read by every data screen (0, 1, 4) and by the summary.
+    /// Read by the track screen (0, 1, 4), by every screen with a table (1) and by the summary (2 to 5).
     controls::ControlArray<controls::TextBox> txtT1{"txtT1", 6};
     controls::Button cmdFile{"cmdFile", "Browse"};
     controls::Button cmdProceed{"cmdProceed", "&Proceed"};

@@ -22,7 +22,6 @@ constexpr int Resolution = 300;   // [dots per inch]
 constexpr int Gap = 6;            // between the parts [px]
 constexpr int UsualWidth = 1320;  // of a form, at 96 dots per inch [px]
 constexpr double MarginMm = 10.0;
-constexpr double LargestScale = 1.0;  // a small form is not blown up beyond its size on the screen
 
 // Black on white for as long as the sheet is painted.
 class PaperPalette {
@@ -199,10 +198,10 @@ void printForm(QWidget& form, const QList<QWidget*>& parts, QPrinter& printer, i
     QPainter painter;
     if (!painter.begin(&printer))
         throw std::runtime_error("the printer did not start");
+    // A small form is not blown up beyond its size on the screen.
     const double natural = Resolution / static_cast<double>(form.logicalDpiX());
-    const double scale =
-        std::min({painter.viewport().width() / static_cast<double>(whole.width()),
-                  painter.viewport().height() / static_cast<double>(whole.height()), natural * LargestScale});
+    const double scale = std::min({painter.viewport().width() / static_cast<double>(whole.width()),
+                                   painter.viewport().height() / static_cast<double>(whole.height()), natural});
     for (int copy = 0; copy < copies; ++copy) {
         if (copy > 0 && !printer.newPage())
             throw std::runtime_error("the printer took no further page");

@@ -32,7 +32,7 @@ Screen::Screen(Chain& owner, const QString& name, const QString& caption, std::i
     setObjectName(name);
     setWindowTitle(caption);
     txtRly(2).setLocked(true);
-    connect(&cmdPrint, &QAbstractButton::clicked, this, &Screen::cmdPrint_Click);
+    onClick(cmdPrint, &Screen::cmdPrint_Click);
 }
 
 void Screen::Timer1_Timer(const QString& date)
@@ -64,8 +64,6 @@ bool Screen::boxIsOpen()
 
 void Screen::cmdPrint_Click()
 {
-    if (boxIsOpen())
-        return;
     try {
         QPrinter printer;
         // Also the name that the dialog offers for a file: another one for each Sr SE's screen.

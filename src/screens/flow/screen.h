@@ -79,6 +79,7 @@ protected:
         });
     }
 
+    /// The choice has been made when the handler runs: nothing may keep it from following.
     template <class Form>
     void onClick(QAbstractButton& button, void (Form::*handler)())
     {

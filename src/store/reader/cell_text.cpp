@@ -1,11 +1,11 @@
 #include "store/reader/cell_text.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
 #include <chrono>
 #include <cmath>
-#include <cstdint>
 #include <cstdio>
 #include <string_view>
 

@@ -59,6 +59,11 @@ void shutProcessesAndNetwork()
         SYS_clone3,
         SYS_kill,
         SYS_tkill,
+        SYS_tgkill,
+        SYS_rt_sigqueueinfo,
+        SYS_rt_tgsigqueueinfo,
+        SYS_pidfd_send_signal,
+        SYS_prlimit64,  // also of another process
         SYS_ptrace,
         SYS_process_vm_readv,
         SYS_process_vm_writev,

@@ -25,7 +25,6 @@ TEST(ControlArrayTest, ElementsBearTheArraysNameAndTheirIndex)
 {
     const ControlArray<TextBox> boxes("txtKmf", 16);
     EXPECT_EQ(boxes.size(), 16);
-    EXPECT_EQ(boxes.name(), "txtKmf");
     EXPECT_EQ(boxes(0).objectName(), "txtKmf(0)");
     EXPECT_EQ(boxes(15).objectName(), "txtKmf(15)");
     boxes(3).setText("12.5");

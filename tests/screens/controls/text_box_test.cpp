@@ -274,6 +274,12 @@ TEST(TextBoxTest, ShowsTheBeginningOfWhatDoesNotFitUnlessTheUserIsInIt)
     QFocusEvent toAnotherBox(QEvent::FocusOut, Qt::TabFocusReason);
     QCoreApplication::sendEvent(&box, &toAnotherBox);
     EXPECT_TRUE(beginning());
+
+    box.setLocked(true);  // a computed figure, looked at to its end
+    QTest::keyClick(&box, Qt::Key_End);
+    EXPECT_FALSE(beginning());
+    QCoreApplication::sendEvent(&box, &toAnotherBox);
+    EXPECT_TRUE(beginning());
 }
 
 TEST(TextBoxTest, IsReadLenientlyWhateverTheLocale)

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <stdexcept>
 
 #include "screens/flow/frmStart.h"
 #include "support/screen_test.h"
@@ -35,6 +36,26 @@ TEST_F(ChainTest, ALaterScreenMakesTheEarlierOnesThatItReads)
     chain.get<frmT2>();
     EXPECT_TRUE(chain.isLoaded<frmStart>());
     EXPECT_TRUE(chain.isLoaded<frmT1>());
+}
+
+TEST_F(ChainTest, LookingBackLeavesNoScreenThatWasNotThere)
+{
+    on<frmT1>();
+    type("txtT1(0)", "Sample Section");
+    chain.lookBack([this] {
+        EXPECT_EQ(chain.get<frmT1>().txtT1(0).text().toStdString(), "Sample Section");
+        chain.get<frmT2>();
+        EXPECT_TRUE(chain.isLoaded<frmT2>());
+    });
+    EXPECT_FALSE(chain.isLoaded<frmT2>());
+    EXPECT_EQ(text("txtT1(0)"), "Sample Section");
+
+    EXPECT_THROW(chain.lookBack([this] {
+        chain.get<frmT2>();
+        throw std::runtime_error("");
+    }),
+                 std::runtime_error);
+    EXPECT_FALSE(chain.isLoaded<frmT2>());
 }
 
 TEST_F(ChainTest, AnUnloadedScreenIsGoneAndTheNextOneNewAndEmpty)

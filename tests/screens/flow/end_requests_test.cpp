@@ -10,7 +10,9 @@
 #include <csignal>
 #include <functional>
 
+#include "activities/site/frmS2.h"
 #include "screens/flow/frmStart.h"
+#include "summary/frmSummary.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
 
@@ -235,6 +237,27 @@ TEST_F(RunningProgram, EndsFromTheQuestionOfTheLastScreenToo)
     });
     EXPECT_EQ(run([&] { start->close(); }), 0);
     EXPECT_FALSE(chain.isLoaded<frmStart>());
+}
+
+TEST_F(RunningProgram, EndsFromTheMessageThatLeadsToTheNextSrSeToo)
+{
+    start->txtT1(3).setText("2");
+    store::Table establishment("S2", std::vector<std::string>(21));
+    const std::vector<std::string_view> record(21, "10");
+    establishment.append(record);
+    establishment.append(record);
+    chain.get<frmS2>().findChild<controls::DataGrid*>("GridS2")->setTable(std::move(establishment));
+    auto& summary = chain.show<frmSummary>();
+    summary.cmdTransfer.click();
+    ASSERT_TRUE(summary.cmdCompute.isEnabled());
+
+    at<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "Proceed for Next Subordinate");
+        std::raise(SIGTERM);
+    });
+    at<QMessageBox>([](QMessageBox& box) { answer(box, QMessageBox::Yes); });
+    EXPECT_EQ(run([&] { summary.cmdCompute.click(); }), 0);
+    EXPECT_FALSE(chain.isLoaded<frmStart>()) << "no new one is made";
 }
 
 TEST_F(RunningProgram, AnOpenContextMenuIsNoObstacle)
