@@ -32,6 +32,7 @@ Section* activity(const QString& heading, const QString& caption, TextBox& figur
     QHBoxLayout& line = section->line();
     Caption& label = addField(line, caption, figure, FigureWidth);
     label.setMinimumWidth(controls::widthOf(figure, CaptionWidth));
+    label.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     if (!captionLines.isEmpty())
         label.setLines(captionLines);
     figure.setNumeric();
@@ -96,11 +97,13 @@ Section* frmM2::gateKeeping()
     }
     auto* section = new Section("M.5- Gate Keeping of level Crossings-");
     QHBoxLayout& line = section->line();
-    addField(line, "Number of Gatemen's posts sanctioned (excludin LR)-", txtNLC, FigureWidth);
+    Caption& posts = addField(line, "Number of Gatemen's posts sanctioned (excludin LR)-", txtNLC, FigureWidth);
+    posts.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     txtNLC.setNumeric();
     section->addResult(line, Result, txtman5, FigureWidth);
     auto* crossings = new controls::BoxLines("shifts");
-    crossings->line("No . of Shifts--", txtLCS, 0, ShiftKinds - 1, FigureWidth);
+    crossings->line("No . of Shifts--", txtLCS, 0, ShiftKinds - 1, FigureWidth)
+        .setMinimumWidth(posts.sizeHint().width());
     crossings->line("Corresponding Number of Level Crossings-", txtLCN, 0, ShiftKinds - 1, FigureWidth);
     section->add(crossings);
     return section;

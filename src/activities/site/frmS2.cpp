@@ -56,15 +56,20 @@ constexpr int CountCharacters = 2;
 constexpr int ValueCharacters = 5;
 constexpr int YearCharacters = 6;
 constexpr int ResultCharacters = 6;
+constexpr int CaptionCharacters = 21;  // the boxes stand under one another
 
-// A count under the boxes' captions, one of which is `wide`; behind it its limit as a note and the activity's result.
-void addCount(Section& section, const QString& caption, const Caption& wide, TextBox& count, const QString& note,
-              TextBox& result)
+int captionWidth(const TextBox& box)
+{
+    return controls::widthOf(box, CaptionCharacters);
+}
+
+// A count; behind it its limit as a note and the activity's result.
+void addCount(Section& section, const QString& caption, TextBox& count, const QString& note, TextBox& result)
 {
     QHBoxLayout& line = section.line();
     Caption& label = controls::addField(line, caption, count, CountCharacters);
     label.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    label.setFixedWidth(wide.sizeHint().width());
+    label.setMinimumWidth(captionWidth(count));
     if (!note.isEmpty())
         line.addWidget(new Caption(note), 1);
     section.addResult(line, Result, result, ResultCharacters);
@@ -133,9 +138,9 @@ Section* frmS2::badFormations()
 {
     auto* section = new Section("S.5- Maintenance of Extremely Bad Formations-");
     auto* boxes = new BoxLines("location");
-    const Caption& length =
-        boxes->line("     Length of Location in Metres-", txtND, Location, PoorVisibility - 1, ValueCharacters);
-    addCount(*section, "Number of Locations-   ", length, txtTB1,
+    boxes->line("     Length of Location in Metres-", txtND, Location, PoorVisibility - 1, ValueCharacters)
+        .setMinimumWidth(captionWidth(txtTB1));
+    addCount(*section, "Number of Locations-   ", txtTB1,
              "(No of Locations needing more than 12 attentions in a year-less than 8 locations) ", txtMan14);
     section->add(boxes);
     return section;
@@ -149,9 +154,9 @@ Section* frmS2::lookOut()
         ->line("Length of Track with poor     Visibility   in   the   gang--", txtND, PoorVisibility, GangLength - 1,
                ValueCharacters)
         .setLines({{"Length of Track with poor"}, {"Visibility in the gang--"}});
-    const Caption& length =
-        boxes->line("Length of the gang length--", txtND, GangLength, FogSignalYears - 1, ValueCharacters);
-    addCount(*section, "Number of Gangs-   ", length, txtTB2, "(Max no of Gangs considered as 9 in a Sr S.E.'s beat)",
+    boxes->line("Length of the gang length--", txtND, GangLength, FogSignalYears - 1, ValueCharacters)
+        .setMinimumWidth(captionWidth(txtTB2));
+    addCount(*section, "Number of Gangs-   ", txtTB2, "(Max no of Gangs considered as 9 in a Sr S.E.'s beat)",
              txtMan15);
     section->add(boxes);
     return section;
@@ -160,8 +165,7 @@ Section* frmS2::lookOut()
 Section* frmS2::filthRemoval()
 {
     auto* section = new Section("S.8-Filth Removal from Track-");
-    const Caption gangs("No. of Gangs having        this type of problem-");
-    addCount(*section, gangs.text(), gangs, txtTB3, "", txtMan17);
+    addCount(*section, "No. of Gangs having        this type of problem-", txtTB3, "", txtMan17);
     return section;
 }
 
@@ -169,7 +173,9 @@ Section* frmS2::pastYears(const QString& heading, const QString& caption, int fi
 {
     auto* section = new Section(heading);
     auto* boxes = new BoxLines("year");
-    boxes->line(caption, txtND, first, first + site::AveragedYears - 1, YearCharacters);
+    Caption& mandays = boxes->line(caption, txtND, first, first + site::AveragedYears - 1, YearCharacters);
+    mandays.setLines({{"Total mandays actually"}, {"utilised in the past"}, {"3 years for this duty-"}});
+    mandays.setMinimumWidth(captionWidth(result));
     for (int i = first; i < first + site::AveragedYears; ++i)
         section->nameAfterActivity(txtND(i));
     QHBoxLayout& line = section->line();
@@ -182,11 +188,12 @@ Section* frmS2::waterLevels(bool suburban)
 {
     auto* section = new Section("S.10-Watching Waterlevels        in Subarban Sections-");
     auto* boxes = new BoxLines("location");
-    const Caption& shifts = boxes->line("No of Shifts required-", txtND, Shifts, Days - 1, ValueCharacters);
+    boxes->line("No of Shifts required-", txtND, Shifts, Days - 1, ValueCharacters)
+        .setMinimumWidth(captionWidth(txtTB4));
     boxes->line("No of days required at the location-", txtND, Days, Values - 1, ValueCharacters)
         .setLines({{"No of days required"}, {"at the location-"}});
-    addCount(*section, "Number of locations-   ", shifts, txtTB4,
-             "(Max no of locations considered as 6 in a Sr S.E.'s beat)", txtMan19);
+    addCount(*section, "Number of locations-   ", txtTB4, "(Max no of locations considered as 6 in a Sr S.E.'s beat)",
+             txtMan19);
     section->add(boxes);
     section->setOpen(suburban);
     return section;
