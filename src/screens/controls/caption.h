@@ -1,4 +1,5 @@
 #pragma once
+#include <QHash>
 #include <QLabel>
 #include <QStringList>
 
@@ -26,12 +27,15 @@ public:
     int heightForWidth(int width) const override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     int longestWord() const;
+    int measuredHeight(int width) const;
 
     QList<QStringList> m_lines;
+    mutable QHash<int, int> m_heights;  // by width: a layout asks some ten times, and shapes the text each time
 };
 
 }  // namespace controls
