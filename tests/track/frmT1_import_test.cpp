@@ -323,19 +323,19 @@ TEST_F(TrackImport, WithoutADataFileThereIsNoBoxAndTheGridsPlaceSaysSo)
 
 TEST_F(TrackImport, AnotherFileChosenSinceIsReadWhenTheScreenComesBack)
 {
-    const char* const Mixed = "The figures in the boxes are from another data file.";
+    const char* const mixed = "The figures in the boxes are from another data file.";
     open(sample("2-eklahra.mdb"));
     import();
     const std::string eklahra = record(0);
     open(sample("2-eklahra.mdb"));
-    EXPECT_FALSE(tells(Mixed));
+    EXPECT_FALSE(tells(mixed));
 
     open(sample("1-ambapur.mdb"));
     EXPECT_EQ(record(0), eklahra) << "the boxes are the user's";
-    EXPECT_TRUE(tells(Mixed));
+    EXPECT_TRUE(tells(mixed));
     click("cmdCopy");
     EXPECT_EQ(record(0), "1|UP|212.4|248.9|1.2|35.6|14|22|42.6|33.5|Machine Packed");
-    EXPECT_FALSE(tells(Mixed));
+    EXPECT_FALSE(tells(mixed));
 
     open("");  // as the summary empties it for the next Sr SE
     EXPECT_TRUE(shown("TrGrid"));
@@ -343,10 +343,10 @@ TEST_F(TrackImport, AnotherFileChosenSinceIsReadWhenTheScreenComesBack)
     open(sample("none.mdb"));
     EXPECT_FALSE(shown("TrGrid"));
     EXPECT_TRUE(tells("There is no file"));
-    EXPECT_TRUE(tells(Mixed));
+    EXPECT_TRUE(tells(mixed));
     dialogs.expectCriticalWith(Title, "row 1 of table TR is missing");
     click("cmdCopy");
-    EXPECT_TRUE(tells(Mixed)) << "nothing came from there";
+    EXPECT_TRUE(tells(mixed)) << "nothing came from there";
     EXPECT_EQ(record(0), "1|UP|212.4|248.9|1.2|35.6|14|22|42.6|33.5|Machine Packed");
 }
 

@@ -17,7 +17,7 @@ const std::array<std::string, 8> Texts = {"", "12.5", "107.84", "1990.", "  .05"
 void valueOf(benchmark::State& state)
 {
     std::size_t i = 0;
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         benchmark::DoNotOptimize(figures::valueOf(Texts[i++ % Texts.size()]));
 }
 BENCHMARK(valueOf);
@@ -25,7 +25,7 @@ BENCHMARK(valueOf);
 void picture(benchmark::State& state)
 {
     std::size_t i = 0;
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         benchmark::DoNotOptimize(figures::picture(Figures[i++ % Figures.size()], "####.##"));
 }
 BENCHMARK(picture);

@@ -40,14 +40,14 @@ std::string nameOf(int i)
         int first;
         const char* name;
     };
-    constexpr std::array Blocks = {Block{Days, "the S.10 number of days of location"},
+    constexpr std::array blocks = {Block{Days, "the S.10 number of days of location"},
                                    Block{Shifts, "the S.10 number of shifts of location"},
                                    Block{SecurityYears, "the S.9 mandays of year"},
                                    Block{FogSignalYears, "the S.7 mandays of year"},
                                    Block{GangLength, "the length of gang"},
                                    Block{PoorVisibility, "the length of poor visibility of gang"},
                                    Block{Location, "the S.5 length of location"}};
-    const auto* block = std::find_if(Blocks.begin(), Blocks.end(), [i](const Block& one) { return one.first <= i; });
+    const auto* block = std::find_if(blocks.begin(), blocks.end(), [i](const Block& one) { return one.first <= i; });
     return figures::numbered(block->name, i - block->first);
 }
 
