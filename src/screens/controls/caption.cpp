@@ -1,6 +1,5 @@
 #include "screens/controls/caption.h"
 
-#include <QEvent>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QStyle>
@@ -23,7 +22,6 @@ Caption::Caption(const QString& text, QWidget* parent) : QLabel(text, parent)
 void Caption::setLines(const QList<QStringList>& lines)
 {
     m_lines = lines;
-    m_heights.clear();
     updateGeometry();
 }
 
@@ -62,20 +60,7 @@ QSize Caption::minimumSizeHint() const
     return {longestWord(), static_cast<int>(m_lines.size()) * fontMetrics().height()};
 }
 
-void Caption::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        m_heights.clear();
-    QLabel::changeEvent(event);
-}
-
 int Caption::heightForWidth(int width) const
-{
-    const auto known = m_heights.constFind(width);
-    return known != m_heights.constEnd() ? *known : *m_heights.insert(width, measuredHeight(width));
-}
-
-int Caption::measuredHeight(int width) const
 {
     int height = 0;
     for (const QStringList& line : m_lines) {

@@ -1,5 +1,4 @@
 #pragma once
-#include <QHash>
 #include <QLabel>
 #include <QStringList>
 
@@ -27,15 +26,12 @@ public:
     int heightForWidth(int width) const override;
 
 protected:
-    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     int longestWord() const;
-    int measuredHeight(int width) const;
 
     QList<QStringList> m_lines;
-    mutable QHash<int, int> m_heights;  // by width: a layout asks some ten times, and shapes the text each time
 };
 
 }  // namespace controls

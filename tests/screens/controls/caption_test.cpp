@@ -56,18 +56,6 @@ TEST(CaptionTest, WhatIsTooWideWrapsAtItsWords)
     EXPECT_GE(narrow, caption.fontMetrics().horizontalAdvance("Eq.t/outs")) << "no word is cut";
 }
 
-TEST(CaptionTest, ItsHeightIsMeasuredAnewWhenFontOrLinesChange)
-{
-    Caption caption("GMT");
-    const int before = caption.heightForWidth(Wide);
-    caption.setLines({{"GMT"}, {"a year"}});
-    EXPECT_EQ(caption.heightForWidth(Wide), 2 * before);
-    QFont larger = caption.font();
-    larger.setPointSizeF(larger.pointSizeF() * 2);
-    caption.setFont(larger);
-    EXPECT_GT(caption.heightForWidth(Wide), 3 * before);
-}
-
 TEST(CaptionTest, AHeadingOverColumnsShowsItsLinesCellByCell)
 {
     Caption caption("Formation  Shrinkable         unstable      km    T/outs     Km    T/outs    ");
