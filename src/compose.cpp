@@ -5,7 +5,7 @@
 #include "activities/site/frmS1.h"
 #include "activities/site/frmS2.h"
 #include "screens/flow/chain.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "summary/frmSummary.h"
 #include "track/frmT1.h"
 #include "track/frmT2.h"

@@ -7,7 +7,7 @@
 #include "compose.h"
 #include "screens/flow/chain.h"
 #include "screens/flow/end_requests.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 #include "activities/misc/frmM2.h"
 #include "activities/site/frmS1.h"
 #include "activities/site/frmS2.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "summary/frmSummary.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"

@@ -44,7 +44,7 @@ float toSingle(double value, std::string_view what, int row)
     return single;
 }
 
-double toDouble(double value, std::string_view what, int row)
+double requireFinite(double value, std::string_view what, int row)
 {
     if (!std::isfinite(value))
         overflow(value, what, TooLarge, row);

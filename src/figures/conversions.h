@@ -16,7 +16,7 @@ float toSingle(double value, std::string_view what, int row = RunTimeError::NoRo
 
 /// `value` itself if it is finite. Throws RunTimeError (overflow: "`what` is too large to compute with", with `row`)
 /// if not: a sum or product of doubles that left their range.
-double toDouble(double value, std::string_view what, int row = RunTimeError::NoRow);
+double requireFinite(double value, std::string_view what, int row = RunTimeError::NoRow);
 
 /// The rows that a count asks for: its whole part (2.5 is 2), none for a negative count.
 int wholeRows(double count);

@@ -61,7 +61,7 @@ void roundTo(int decimals, Decimal& number)
 
 std::string picture(double value, std::string_view places)
 {
-    toDouble(value, "the figure to show");
+    requireFinite(value, "the figure to show");
 
     const std::size_t point = places.find('.');
     const bool hasPoint = point != std::string_view::npos;

@@ -10,7 +10,7 @@
 #include "figures/numeric_text.h"
 #include "figures/picture.h"
 #include "screens/flow/chain.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "track/frmT1.h"
 #include "track/frmT2.h"
 #include "track/frmT4.h"
@@ -36,7 +36,7 @@ frmSummary::frmSummary(flow::Chain& owner)
     : DataScreen(owner, "frmSummary", "Manpower Requirement Summary for the Division", {0, 1, 2})
 {
     layOut();
-    markNext(&cmdTransfer);
+    setDefaultButton(&cmdTransfer);
     for (controls::Button* button : {&cmdTransfer, &cmdCompute, &cmdTotal, &cmdPrint, &cmdExit})
         button->setEnabled(false);
     cmdExit.setVisible(false);
@@ -65,14 +65,14 @@ std::array<const frmSummary::Column*, 13> frmSummary::columns() const
 
 void frmSummary::layOut()
 {
-    QHBoxLayout& where = layout.headerLine();
+    QHBoxLayout& where = form.headerLine();
     controls::addField(where, "Railway-", txtRly(0), 30);
     controls::addField(where, "Division-", txtRly(1), 30);
     addDate(where);
 
-    QHBoxLayout& who = layout.headerLine();
+    QHBoxLayout& who = form.headerLine();
     controls::addField(who, "No.of Sr S.E's on the Division-", txtSSN, 4);
-    txtSSN.setLimit(MostSrSes);
+    txtSSN.setLimit(MaxSrSes);
     who.addStretch();
     auto* department = new Caption("Engineering Department");
     department->setObjectName("LblRailway");
@@ -81,13 +81,13 @@ void frmSummary::layOut()
     txtRly(1).setLocked(true);
 
     m_table = table();
-    layout.addRows(m_table);
+    form.addRows(m_table);
     for (controls::Button* comesOrGoes : {&cmdTotal, &cmdExit}) {  // no other button moves under the user's hand
         QSizePolicy policy = comesOrGoes->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
         comesOrGoes->setSizePolicy(policy);
     }
-    layout.buttons({&cmdTransfer, &cmdCompute, &cmdTotal, &cmdPrint, &cmdExit});
+    form.buttons({&cmdTransfer, &cmdCompute, &cmdTotal, &cmdPrint, &cmdExit});
     cmdTransfer.setToolTip(flow::LockTip);
     cmdPrint.setToolTip(flow::LockTip);
 }
@@ -110,7 +110,7 @@ RowSheet* frmSummary::table()
             connect(&(*establishment)(row), &QLineEdit::textEdited, this, [this, row] { typedByHand(row); });
     }
 
-    auto* rows = new RowSheet("Sr SE", MostSrSes);
+    auto* rows = new RowSheet("Sr SE", MaxSrSes);
     rows->withTotalRow();
     const auto column = [&](const QString& heading, const Column& boxes, int characters) {
         rows->heading(heading);
@@ -152,7 +152,7 @@ void frmSummary::markShortage(int row)
 
 void frmSummary::txtSSN_Change()
 {
-    NumSrSE = figures::countUpTo(MostSrSes, txtSSN.text().toStdString());
+    NumSrSE = figures::countUpTo(MaxSrSes, txtSSN.text().toStdString());
     for (int row = 1; row < figures::wholeRows(NumSrSE); ++row)
         showRow(row);
     cmdTransfer.setEnabled(true);
@@ -176,7 +176,7 @@ void frmSummary::cmdTransfer_Click()
     // Pressed before the next Sr SE's screens have been worked, it finds none of them.
     chain.lookBack([this] { takeOver(); });
     cmdCompute.setEnabled(true);
-    leadTo(cmdCompute);
+    focusDefault(cmdCompute);
 }
 
 void frmSummary::takeOver()
@@ -196,7 +196,7 @@ void frmSummary::takeOver()
     // If the file has no establishment figures, the row waits for them to be typed.
     m_rowToFill = r;
     if (!txtKey(r).isHidden())
-        goTo(txtKey(r));
+        revealBox(txtKey(r));
     txtKey(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 18));
     txtLR(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 19));
     txtSS(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 20));
@@ -210,7 +210,7 @@ void frmSummary::typedByHand(int row)
         return;
     m_rowToFill = -1;
     cmdCompute.setEnabled(true);
-    markNext(&cmdCompute);
+    setDefaultButton(&cmdCompute);
 }
 
 void frmSummary::cmdCompute_Click()
@@ -270,7 +270,7 @@ void frmSummary::nextSrSe()
     start.txtT1(4).setText(QString::fromStdString(figures::textOf(SrSEIndex + 1)));
     chain.show<frmStart>();
     cmdCompute.setEnabled(false);
-    leadTo(cmdTransfer);  // when this screen comes back
+    focusDefault(cmdTransfer);  // when this screen comes back
 }
 
 void frmSummary::lastSrSe()
@@ -279,7 +279,7 @@ void frmSummary::lastSrSe()
         chain.dialogs().showMessage(*this, "Calculations for all Sr SSE's are over", "Now Total up the figures"),
         "the button");
     cmdTotal.setEnabled(true);
-    leadTo(cmdTotal);
+    focusDefault(cmdTotal);
     cmdCompute.setEnabled(false);
 }
 
@@ -360,16 +360,16 @@ void frmSummary::cmdTotal_Click()
     setText(txtEx(Total), picture(TotEx, "#####"));
 
     cmdPrint.setEnabled(true);
-    leadTo(cmdPrint);
+    focusDefault(cmdPrint);
     cmdExit.setEnabled(true);
     cmdExit.setVisible(true);
     cmdTotal.setVisible(false);
 }
 
-void frmSummary::printed()
+void frmSummary::onPrinted()
 {
-    DataScreen::printed();
-    leadTo(cmdExit);
+    DataScreen::onPrinted();
+    focusDefault(cmdExit);
 }
 
 void frmSummary::cmdExit_Click()

@@ -2,16 +2,16 @@
 #include <array>
 
 #include "screens/flow/data_screen.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "summary/strength.h"
 
 /// The division: one row for each Sr SE, its strength against the sanctioned posts, and the totals. The last screen of
 /// the chain; it stays while the others come and go with each Sr SE, so it asks the chain for them when it reads them.
 class frmSummary : public flow::DataScreen {
 public:
-    static constexpr int MostSrSes = frmStart::MostSrSes;
-    static constexpr int Total = MostSrSes;  ///< the row of totals
-    static constexpr int Rows = MostSrSes + 1;
+    static constexpr int MaxSrSes = frmStart::MaxSrSes;
+    static constexpr int Total = MaxSrSes;  ///< the row of totals
+    static constexpr int Rows = MaxSrSes + 1;
 
     explicit frmSummary(flow::Chain& chain);
 
@@ -71,7 +71,7 @@ public:
     QWidget* firstBox() override;
 
 protected:
-    void printed() override;
+    void onPrinted() override;
 
 private:
     void txtSSN_Change();

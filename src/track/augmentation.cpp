@@ -9,7 +9,7 @@ namespace track {
 namespace {
 
 using figures::numbered;
-using figures::toDouble;
+using figures::requireFinite;
 
 constexpr AugmentationNorm Norm = AugmentationNorms;
 
@@ -43,11 +43,11 @@ Augmentation augmentation(const SegmentGround& ground, int row)
                                     numbered("the equivalent length of segment", row) + " is 0", row);
 
     Augmentation terms;
-    terms.formation = toDouble(formationTerm(ground), numbered("the term A of segment", row), row);
-    terms.alignment = toDouble(alignmentTerm(ground), numbered("the term B of segment", row), row);
+    terms.formation = requireFinite(formationTerm(ground), numbered("the term A of segment", row), row);
+    terms.alignment = requireFinite(alignmentTerm(ground), numbered("the term B of segment", row), row);
     terms.rainfall = rainfallTerm(ground.rainfallCm);
-    terms.factor = toDouble(1 + terms.formation + terms.alignment + terms.rainfall,
-                            numbered("the augmentation factor of segment", row), row);
+    terms.factor = requireFinite(1 + terms.formation + terms.alignment + terms.rainfall,
+                                 numbered("the augmentation factor of segment", row), row);
     return terms;
 }
 

@@ -6,7 +6,7 @@
 #include "figures/numeric_text.h"
 #include "figures/picture.h"
 #include "screens/flow/chain.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "track/track_length.h"
 
 using controls::RowSheet;
@@ -32,7 +32,7 @@ frmT1::frmT1(flow::Chain& owner, const frmStart& start)
     cmdCompute.setEnabled(false);
 
     openSource(start.txtT1(1).text());
-    advise("Choose the gauge: it opens the import.");
+    setHint("Choose the gauge: it opens the import.");
     takeSrSe();
 
     onChange(txtNSeg, &frmT1::txtNSeg_Change);
@@ -52,22 +52,22 @@ void frmT1::takeSrSe()
 }
 
 // A name that was forgotten or mistyped would otherwise be missing on every sheet of the Sr SE.
-void frmT1::shownAgain()
+void frmT1::onShownAgain()
 {
-    ImportScreen::shownAgain();
+    ImportScreen::onShownAgain();
     if (!cmdNext.isEnabled())
         takeSrSe();
 }
 
 void frmT1::layOut()
 {
-    QHBoxLayout& who = layout.headerLine();
+    QHBoxLayout& who = form.headerLine();
     controls::Caption& section = controls::addField(who, "Section-", txtT1(0), 30);
     controls::addField(who, "Sr S.E. with index-", txtT1(1), 30);
     controls::addBox(who, txtT1(4), 4, "Sr S.E. index");
     addDate(who);
 
-    QHBoxLayout& how = layout.headerLine();
+    QHBoxLayout& how = form.headerLine();
     // The boxes that are typed stand under one another.
     section.setMinimumWidth(controls::addField(how, "Jurisdiction -", txtT1(2), 30).sizeHint().width());
     controls::addGroup(how, "fraG", "Gauge", {&optBG, &optMG, &optNG});
@@ -88,14 +88,14 @@ void frmT1::layOut()
         txtT1(taken).setLocked(true);
     txtNSeg.setLocked(true);
 
-    layout.addRows(segmentRows());
+    form.addRows(segmentRows());
     addGrid(cmdCopy);
-    layout.buttons({&cmdCopy, &cmdCompute, &cmdPrint, &cmdNext});
+    form.buttons({&cmdCopy, &cmdCompute, &cmdPrint, &cmdNext});
 }
 
 RowSheet* frmT1::segmentRows()
 {
-    for (int i = 0; i < MostSegments; ++i) {
+    for (int i = 0; i < MaxSegments; ++i) {
         txtSS(i).setText(QString::number(i + 1));
         cboLn(i).addItems({"UP", "DN", "SL"});
         cboLn(i).setText("Line");
@@ -108,7 +108,7 @@ RowSheet* frmT1::segmentRows()
         txtEqtkm(i).setLocked(true);
         showRow(i, false);
     }
-    auto* rows = new RowSheet("segment", MostSegments);
+    auto* rows = new RowSheet("segment", MaxSegments);
     rows->heading("Segment     No");
     rows->column(txtSS, 6);
     rows->heading(" Line  dn/up");
@@ -157,7 +157,7 @@ void frmT1::txtNSeg_Change()
     SrSeIndexT1 = valueOf(txtT1(4));
     SectionText = txtT1(0).text();
     SrSeNameT1 = txtT1(1).text();
-    SegCount = countOf(txtNSeg, MostSegments);
+    SegCount = countOf(txtNSeg, MaxSegments);
     if (chkSub.isChecked())
         forceMethod(0, MachinePacked);
     for (int i = 0; i < SegCount; ++i) {
@@ -167,7 +167,7 @@ void frmT1::txtNSeg_Change()
         else
             cboMtc(i).setLocked(false);
     }
-    for (int i = SegCount; i < MostSegments; ++i)
+    for (int i = SegCount; i < MaxSegments; ++i)
         showRow(i, false);
     cmdCompute.setEnabled(true);
     openImport();
@@ -176,7 +176,7 @@ void frmT1::txtNSeg_Change()
 void frmT1::openImport()
 {
     cmdCopy.setEnabled(true);
-    advise("");
+    setHint("");
 }
 
 void frmT1::optBG_Click()
@@ -217,7 +217,7 @@ void frmT1::chkSub_Click()
 void frmT1::cmdCopy_Click()
 {
     txtNSeg.setText(cell(1, 2));
-    SegCount = countOf(txtNSeg, MostSegments);
+    SegCount = countOf(txtNSeg, MaxSegments);
     for (int i = 0; i < SegCount; ++i) {
         txtSS(i).setText(cell(i + 1, 3));
         cboLn(i).setText(cell(i + 1, 4));
@@ -231,8 +231,8 @@ void frmT1::cmdCopy_Click()
         txtLWR(i).setText(cell(i + 1, 12));
         cboMtc(i).setText(cell(i + 1, 13));
     }
-    imported();
-    leadTo(cmdCompute);
+    finishImport();
+    focusDefault(cmdCompute);
 }
 
 void frmT1::cmdCompute_Click()
@@ -245,9 +245,9 @@ void frmT1::cmdCompute_Click()
             firstBad = i;
     if (ComputeError != 1) {
         txtNSeg.setLocked(true);
-        computed(cmdCompute);
+        finishCompute(cmdCompute);
     } else if (firstBad >= 0) {
-        goTo(txtKmf(firstBad));
+        revealBox(txtKmf(firstBad));
     }
 }
 
@@ -264,7 +264,7 @@ bool frmT1::computeRow(int i)
     txtKmf(i).setRed(wrongWayRound);
     txtKmt(i).setRed(wrongWayRound);
     if (wrongWayRound) {
-        goTo(txtKmf(i));
+        revealBox(txtKmf(i));
         ComputeError = figures::toInt16(chain.dialogs().showCritical(*this, "Revise Values of 'Km from' and 'Km to'",
                                                                      "'Kilometer to' can not be less than 'Km from'"),
                                         "the button");

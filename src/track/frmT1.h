@@ -3,7 +3,7 @@
 #include <QRadioButton>
 #include <array>
 
-#include "screens/controls/named.h"
+#include "screens/controls/enter_as_tab.h"
 #include "screens/flow/data_screen.h"
 
 class frmStart;
@@ -11,7 +11,7 @@ class frmStart;
 /// The main-line track under one Sr SE, segment by segment: lengths and the total of long welded rail.
 class frmT1 : public flow::ImportScreen {
 public:
-    static constexpr int MostSegments = 16;
+    static constexpr int MaxSegments = 16;
 
     frmT1(flow::Chain& chain, const frmStart& start);
 
@@ -21,24 +21,24 @@ public:
 
     // The segments. Read by frmT2 (txtSS, txtEqtkm), frmT4 (all but line, kilometres and welded rail) and the summary
     // (txtTkm).
-    controls::ControlArray<controls::TextBox> txtSS{"txtSS", MostSegments};
-    controls::ControlArray<controls::ComboBox> cboLn{"cboLn", MostSegments};
-    controls::ControlArray<controls::TextBox> txtKmf{"txtKmf", MostSegments};
-    controls::ControlArray<controls::TextBox> txtKmt{"txtKmt", MostSegments};
-    controls::ControlArray<controls::TextBox> txtKm1{"txtKm1", MostSegments};
-    controls::ControlArray<controls::TextBox> txtGmt{"txtGmt", MostSegments};
-    controls::ControlArray<controls::TextBox> txtLWR{"txtLWR", MostSegments};
-    controls::ControlArray<controls::ComboBox> cboMtc{"cboMtc", MostSegments};
-    controls::ControlArray<controls::TextBox> txtConc1{"txtConc1", MostSegments};
-    controls::ControlArray<controls::TextBox> txtConc2{"txtConc2", MostSegments};
-    controls::ControlArray<controls::TextBox> txtTout{"txtTout", MostSegments};
-    controls::ControlArray<controls::TextBox> txtTkm{"txtTkm", MostSegments};
-    controls::ControlArray<controls::TextBox> txtEqtkm{"txtEqtkm", MostSegments};
+    controls::ControlArray<controls::TextBox> txtSS{"txtSS", MaxSegments};
+    controls::ControlArray<controls::ComboBox> cboLn{"cboLn", MaxSegments};
+    controls::ControlArray<controls::TextBox> txtKmf{"txtKmf", MaxSegments};
+    controls::ControlArray<controls::TextBox> txtKmt{"txtKmt", MaxSegments};
+    controls::ControlArray<controls::TextBox> txtKm1{"txtKm1", MaxSegments};
+    controls::ControlArray<controls::TextBox> txtGmt{"txtGmt", MaxSegments};
+    controls::ControlArray<controls::TextBox> txtLWR{"txtLWR", MaxSegments};
+    controls::ControlArray<controls::ComboBox> cboMtc{"cboMtc", MaxSegments};
+    controls::ControlArray<controls::TextBox> txtConc1{"txtConc1", MaxSegments};
+    controls::ControlArray<controls::TextBox> txtConc2{"txtConc2", MaxSegments};
+    controls::ControlArray<controls::TextBox> txtTout{"txtTout", MaxSegments};
+    controls::ControlArray<controls::TextBox> txtTkm{"txtTkm", MaxSegments};
+    controls::ControlArray<controls::TextBox> txtEqtkm{"txtEqtkm", MaxSegments};
 
-    controls::Named<QRadioButton> optBG;
-    controls::Named<QRadioButton> optMG;
-    controls::Named<QRadioButton> optNG;
-    controls::Named<QCheckBox> chkSub;  ///< read by frmT4 and frmS2
+    controls::EnterAsTab<QRadioButton> optBG;
+    controls::EnterAsTab<QRadioButton> optMG;
+    controls::EnterAsTab<QRadioButton> optNG;
+    controls::EnterAsTab<QCheckBox> chkSub;  ///< read by frmT4 and frmS2
 
     controls::Button cmdCopy{"cmdCopy", "&Data from a  File"};
     controls::Button cmdCompute{"cmdCompute", "&Compute"};
@@ -51,21 +51,21 @@ public:
     QString DataFilePath;
 
     // As computed, row by row.
-    std::array<float, MostSegments + 1> SegNo{};
-    std::array<QString, MostSegments + 1> SegLine{};
-    std::array<double, MostSegments + 1> KmFrom{};    ///< [km]
-    std::array<double, MostSegments + 1> KmTo{};      ///< [km]
-    std::array<double, MostSegments + 1> KmExtra{};   ///< [km]
-    std::array<float, MostSegments + 1> LwrKm{};      ///< [km]
-    std::array<double, MostSegments + 1> Turnouts{};  ///< equivalent turnouts
-    std::array<double, MostSegments + 1> TotalKm{};   ///< [km]
-    std::array<double, MostSegments + 1> EqLength{};  ///< [km]
+    std::array<float, MaxSegments + 1> SegNo{};
+    std::array<QString, MaxSegments + 1> SegLine{};
+    std::array<double, MaxSegments + 1> KmFrom{};    ///< [km]
+    std::array<double, MaxSegments + 1> KmTo{};      ///< [km]
+    std::array<double, MaxSegments + 1> KmExtra{};   ///< [km]
+    std::array<float, MaxSegments + 1> LwrKm{};      ///< [km]
+    std::array<double, MaxSegments + 1> Turnouts{};  ///< equivalent turnouts
+    std::array<double, MaxSegments + 1> TotalKm{};   ///< [km]
+    std::array<double, MaxSegments + 1> EqLength{};  ///< [km]
     std::int16_t ComputeError = 0;
     double SrSeIndexAtCompute = 0.0;
 
     QWidget* firstBox() override { return &txtT1(0); }
     /// Takes the Sr SE from the start screen anew, as long as nothing is computed.
-    void shownAgain() override;
+    void onShownAgain() override;
 
 private:
     void txtNSeg_Change();

@@ -4,7 +4,7 @@
 
 #include "figures/conversions.h"
 #include "figures/picture.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 
 using controls::Caption;
 using controls::RowSheet;
@@ -38,15 +38,15 @@ frmT2::frmT2(flow::Chain& owner, const frmStart& start, const frmT1& t1)
 
 void frmT2::layOut()
 {
-    QHBoxLayout& who = layout.headerLine();
+    QHBoxLayout& who = form.headerLine();
     controls::addField(who, "Sr S.E. with index-", txtT1(1), 30);
     controls::addBox(who, txtT1(4), 4, "Sr S.E. index");
     addDate(who);
     for (const int i : {1, 4})
         txtT1(i).setLocked(true);
 
-    layout.addRows(segmentRows());
-    QHBoxLayout& notes = layout.lineBelow();
+    form.addRows(segmentRows());
+    QHBoxLayout& notes = form.lineBelow();
     notes.addStretch(2);  // under the curve columns
     notes.addWidget(new Caption("Eq. Degree calculated for curves in 1 Deg to 2 Deg range"));
     notes.addStretch(1);
@@ -54,7 +54,7 @@ void frmT2::layOut()
     legend->setLines({{legend->text()}});
     notes.addWidget(legend);
     addGrid(cmdCopy);
-    layout.buttons({&cmdCopy, &cmdCompute, &cmdPrint, &cmdNext});
+    form.buttons({&cmdCopy, &cmdCompute, &cmdPrint, &cmdNext});
     for (controls::Button* button : {&cmdCompute, &cmdPrint, &cmdNext})
         button->setToolTip(flow::LockTip);
 }
@@ -123,7 +123,7 @@ void frmT2::cmdCopy_Click()
         txtcur2(i).setText(cell(i + 1, 8));
         txtCur3(i).setText(cell(i + 1, 9));
     }
-    imported(cmdCompute);
+    finishImport(cmdCompute);
 }
 
 track::SegmentGround frmT2::readRow(int i)
@@ -170,5 +170,5 @@ void frmT2::cmdCompute_Click()
         setText(txtC(i), picture(FacC[at], "#.######"));
         setText(txtABC(i), picture(augmentations[at].factor, "#.######"));
     }
-    computed(cmdCompute);
+    finishCompute(cmdCompute);
 }

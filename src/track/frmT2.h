@@ -12,7 +12,7 @@ class frmStart;
 class frmT2 : public flow::ImportScreen {
 public:
     /// Elements 0 to 15 are the segments; element 16 is never shown.
-    static constexpr int Elements = frmT1::MostSegments + 1;
+    static constexpr int Elements = frmT1::MaxSegments + 1;
 
     frmT2(flow::Chain& chain, const frmStart& start, const frmT1& t1);
 

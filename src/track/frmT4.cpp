@@ -42,13 +42,13 @@ void frmT4::copyRow(int i)
 
 void frmT4::layOut()
 {
-    QHBoxLayout& who = layout.headerLine();
+    QHBoxLayout& who = form.headerLine();
     controls::addField(who, "Section-", txtT1(0), 30);
     controls::addField(who, "Sr S.E. with index-", txtT1(1), 30);
     controls::addBox(who, txtT1(4), 4, "Sr S.E. index");
     addDate(who);
 
-    QHBoxLayout& how = layout.headerLine();
+    QHBoxLayout& how = form.headerLine();
     controls::addField(how, "Jurisdiction -", txtT1(2), 30);
     controls::addField(how, "Gauge", txtT1(3), 5);
     controls::addGroup(how, "fraSub", "Subarban Section", {&chkSub});
@@ -62,16 +62,16 @@ void frmT4::layOut()
     for (int i = 0; i < txtT1.size(); ++i)
         txtT1(i).setLocked(true);
 
-    layout.addRows(segmentRows());
-    QHBoxLayout& sum = layout.lineBelow();
+    form.addRows(segmentRows());
+    QHBoxLayout& sum = form.lineBelow();
     auto* legend = new Caption("A- Formation     B- Alignment    C- Rainfall");
     legend->setLines({{legend->text()}});
     sum.addStretch(6);  // under the factor's column
     sum.addWidget(legend);
     sum.addStretch(1);
     controls::addField(sum, "Total Mandays for      ('T'+ 'R') Activities        for the Sr.S.E. ", txtMan3(Total), 12);
-    layout.buttons({&cmdCompute, &cmdPrint, &cmdNext});
-    markNext(&cmdCompute);
+    form.buttons({&cmdCompute, &cmdPrint, &cmdNext});
+    setDefaultButton(&cmdCompute);
     for (controls::Button* button : {&cmdCompute, &cmdPrint, &cmdNext})
         button->setToolTip(flow::LockTip);
 }
@@ -188,5 +188,5 @@ void frmT4::cmdCompute_Click()
         setText(txtMan3(i), picture(ManTR[at], "####.##"));
     }
     setText(txtMan3(Total), picture(TotMan, "######.##"));
-    computed(cmdCompute);
+    finishCompute(cmdCompute);
 }

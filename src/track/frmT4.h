@@ -2,7 +2,7 @@
 #include <QCheckBox>
 #include <array>
 
-#include "screens/controls/named.h"
+#include "screens/controls/enter_as_tab.h"
 #include "screens/flow/data_screen.h"
 #include "track/frmT1.h"
 #include "track/main_line_norms.h"
@@ -13,7 +13,7 @@ class frmT2;
 /// all that goes into them is taken from the screens before.
 class frmT4 : public flow::StepScreen {
 public:
-    static constexpr int Segments = frmT1::MostSegments;
+    static constexpr int Segments = frmT1::MaxSegments;
     static constexpr int Total = Segments;  ///< the element of txtMan3 that is the Sr SE's total
 
     frmT4(flow::Chain& chain, const frmT1& t1, const frmT2& t2);
@@ -21,7 +21,7 @@ public:
     /// 0 section, 1 Sr SE, 2 jurisdiction, 3 gauge, 4 index.
     controls::ControlArray<controls::TextBox> txtT1{"txtT1", 5};
     controls::TextBox txtNSeg{"txtNSeg"};
-    controls::Named<QCheckBox> chkSub{"chkSub", "Subarban     Section"};
+    controls::EnterAsTab<QCheckBox> chkSub{"chkSub", "Subarban     Section"};
 
     controls::ControlArray<controls::TextBox> txtSS{"txtSS", Segments};
     controls::ControlArray<controls::TextBox> txtEqtkm{"txtEqtkm", Segments};

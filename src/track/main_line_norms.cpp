@@ -11,7 +11,7 @@ namespace track {
 namespace {
 
 using figures::numbered;
-using figures::toDouble;
+using figures::requireFinite;
 
 double tPerKm(const MainLineNorm& norm, double gmt)
 {
@@ -20,8 +20,8 @@ double tPerKm(const MainLineNorm& norm, double gmt)
 
 double tMandays(const MainLineNorm& norm, const MainLineSegment& segment, int row)
 {
-    return toDouble(tPerKm(norm, segment.gmt) * segment.factor * segment.eqLengthKm,
-                    numbered("the number of 'T' mandays of segment", row), row);
+    return requireFinite(tPerKm(norm, segment.gmt) * segment.factor * segment.eqLengthKm,
+                         numbered("the number of 'T' mandays of segment", row), row);
 }
 
 /// The concrete sleepers are not limited to the segment's length: beyond it the rest turns negative.
@@ -30,7 +30,7 @@ double rMandays(const MainLineNorm& norm, const MainLineSegment& segment, int ro
     const double mandays = norm.rPerKmOnConcrete ? norm.rPerKm * (segment.eqLengthKm - segment.concreteKm) +
                                                        *norm.rPerKmOnConcrete * segment.concreteKm
                                                  : norm.rPerKm * segment.eqLengthKm;
-    return toDouble(mandays, numbered("the number of 'R' mandays of segment", row), row);
+    return requireFinite(mandays, numbered("the number of 'R' mandays of segment", row), row);
 }
 
 const MainLineNorm& bgNorm(bool suburban, Method method)
@@ -49,8 +49,8 @@ Method methodOf(std::string_view text)
 
 double concreteKm(double lengthKm, double turnouts, int row)
 {
-    return toDouble(lengthKm + KmPerTurnout * turnouts, numbered("the length on concrete sleepers of segment", row),
-                    row);
+    return requireFinite(lengthKm + KmPerTurnout * turnouts,
+                         numbered("the length on concrete sleepers of segment", row), row);
 }
 
 MainLineMandays bgMandays(const MainLineSegment& segment, bool suburban, Method method, int row)
@@ -71,8 +71,9 @@ MainLineMandays ngMandays(const MainLineSegment& segment, int row)
         throw figures::RunTimeError(figures::ErrorKind::FloatingPoint,
                                     numbered("the augmented 'T' rate is too large to compute with on segment", row),
                                     row);
-    return {toDouble(segment.eqLengthKm * augmentedPerKm, numbered("the number of 'T' mandays of segment", row), row),
-            rMandays(NarrowGauge, segment, row)};
+    return {
+        requireFinite(segment.eqLengthKm * augmentedPerKm, numbered("the number of 'T' mandays of segment", row), row),
+        rMandays(NarrowGauge, segment, row)};
 }
 
 float ngTPerKm(double gmt, int row)
@@ -83,7 +84,7 @@ float ngTPerKm(double gmt, int row)
 
 double trMandays(const MainLineMandays& mandays, int row)
 {
-    return toDouble(mandays.t + mandays.r, numbered("the number of 'T'+'R' mandays of segment", row), row);
+    return requireFinite(mandays.t + mandays.r, numbered("the number of 'T'+'R' mandays of segment", row), row);
 }
 
 float addTrMandays(float total, std::span<const double> segmentTrMandays)

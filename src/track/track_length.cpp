@@ -8,15 +8,15 @@
 namespace track {
 
 using figures::numbered;
-using figures::toDouble;
+using figures::requireFinite;
 
 SegmentLength segmentLength(const SegmentLimits& segment, int row)
 {
     SegmentLength length;
     length.totalKm =
-        toDouble((segment.kmTo - segment.kmFrom) + segment.kmExtra, numbered("the total km of segment", row), row);
-    length.eqLengthKm = toDouble(segment.turnouts * KmPerTurnout + length.totalKm,
-                                 numbered("the equivalent length of segment", row), row);
+        requireFinite((segment.kmTo - segment.kmFrom) + segment.kmExtra, numbered("the total km of segment", row), row);
+    length.eqLengthKm = requireFinite(segment.turnouts * KmPerTurnout + length.totalKm,
+                                      numbered("the equivalent length of segment", row), row);
     return length;
 }
 

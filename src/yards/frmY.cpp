@@ -2,7 +2,7 @@
 
 #include "figures/conversions.h"
 #include "figures/picture.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "track/frmT1.h"
 
 using controls::Caption;
@@ -34,11 +34,11 @@ frmY::frmY(flow::Chain& owner, const frmStart& start, const frmT1& t1)
 
 void frmY::layOut()
 {
-    QHBoxLayout& what = layout.headerLine();
+    QHBoxLayout& what = form.headerLine();
     what.addWidget(new Caption("Running and Non Running Yard Lines and Turnouts on the section of Sr S.E...-"));
     addDate(what);
 
-    QHBoxLayout& who = layout.headerLine();
+    QHBoxLayout& who = form.headerLine();
     controls::addField(who, "Sr S.E. with index-", txtT1(1), 30);
     controls::addBox(who, txtT1(4), 4, "Sr S.E. index");
     controls::addField(who, "Gauge", txtT1(3), 5);
@@ -47,17 +47,17 @@ void frmY::layOut()
     for (const int taken : {1, 3, 4})
         txtT1(taken).setLocked(true);
     txtNYd.setToolTip("Data for a maximum of 12 yards can be given");
-    txtNYd.setLimit(MostYards);
+    txtNYd.setLimit(MaxYards);
 
-    layout.addRows(yardRows());
-    QHBoxLayout& result = layout.lineBelow();
+    form.addRows(yardRows());
+    QHBoxLayout& result = form.lineBelow();
     result.addStretch();
     controls::addField(result, "  Total Numer of Mandays for Yard      maintenance", txtYd4, 12);
     txtYd4.setNumeric();
     txtYd4.setLocked(true);
 
     addGrid(cmdYdata);
-    layout.buttons({&cmdYdata, &cmdCOMPUTE, &cmdPrint, &cmdNext});
+    form.buttons({&cmdYdata, &cmdCOMPUTE, &cmdPrint, &cmdNext});
     for (controls::Button* final : {&cmdCOMPUTE, &cmdPrint, &cmdNext})
         final->setToolTip(flow::LockTip);
 }
@@ -65,16 +65,16 @@ void frmY::layOut()
 RowSheet* frmY::yardRows()
 {
     for (const auto* figure : {&txtM1, &txtM2, &TXTM3, &TXTM4, &txtM5, &txtM6}) {
-        for (int i = 0; i <= MostYards; ++i)
+        for (int i = 0; i <= MaxYards; ++i)
             (*figure)(i).setNumeric();
-        (*figure)(MostYards).setLocked(true);
+        (*figure)(MaxYards).setLocked(true);
     }
-    for (int i = 0; i < MostYards; ++i)
+    for (int i = 0; i < MaxYards; ++i)
         showRow(i, false);
     showTotals(false);
 
     // "Station" is drawn with the lower heading, right over the names.
-    auto* rows = new RowSheet("yard", MostYards);
+    auto* rows = new RowSheet("yard", MaxYards);
     rows->withTotalRow("Total");
     rows->heading(" Station         Length of Lines(km)                         No of Turnouts", 7)
         .setLines({{"", "", "Length of Lines(km)", "", "", "No of Turnouts", ""}});
@@ -106,13 +106,13 @@ void frmY::showRow(int i, bool shown)
 void frmY::showTotals(bool shown)
 {
     for (auto* boxes : {&txtM1, &txtM2, &TXTM3, &TXTM4, &txtM5, &txtM6})
-        (*boxes)(MostYards).setVisible(shown);
+        (*boxes)(MaxYards).setVisible(shown);
 }
 
 void frmY::txtNYd_Change()
 {
-    NYd = countOf(txtNYd, MostYards);
-    for (int i = 0; i < MostYards; ++i)
+    NYd = countOf(txtNYd, MaxYards);
+    for (int i = 0; i < MaxYards; ++i)
         showRow(i, i < NYd);
     showTotals(true);
 }
@@ -129,7 +129,7 @@ void frmY::cmdYdata_Click()
         txtM5(i).setText(cell(i + 1, 8));
         txtM6(i).setText(cell(i + 1, 9));
     }
-    imported(cmdCOMPUTE);
+    finishImport(cmdCOMPUTE);
 }
 
 yards::YardLines frmY::readRow(int i)
@@ -152,7 +152,7 @@ yards::YardLines frmY::readRow(int i)
 
 void frmY::cmdCOMPUTE_Click()
 {
-    std::array<yards::YardLines, MostYards> entered;
+    std::array<yards::YardLines, MaxYards> entered;
     for (int i = 0; i < NYd; ++i)
         entered[static_cast<std::size_t>(i)] = readRow(i);
 
@@ -172,14 +172,14 @@ void frmY::cmdCOMPUTE_Click()
     Sum5 = sums.manualTurnouts;
     Sum6 = sums.nonRunningTurnouts;
 
-    setText(txtM1(MostYards), picture(Sum1, "####.##"));
-    setText(txtM2(MostYards), picture(Sum2, "####.##"));
-    setText(TXTM3(MostYards), picture(Sum3, "####.##"));
-    setText(TXTM4(MostYards), picture(Sum4, "####.##"));
-    setText(txtM5(MostYards), picture(Sum5, "####.##"));
-    setText(txtM6(MostYards), picture(Sum6, "####.##"));
+    setText(txtM1(MaxYards), picture(Sum1, "####.##"));
+    setText(txtM2(MaxYards), picture(Sum2, "####.##"));
+    setText(TXTM3(MaxYards), picture(Sum3, "####.##"));
+    setText(TXTM4(MaxYards), picture(Sum4, "####.##"));
+    setText(txtM5(MaxYards), picture(Sum5, "####.##"));
+    setText(txtM6(MaxYards), picture(Sum6, "####.##"));
     showTotals(true);  // also when no count was ever given
     setText(txtYd4, picture(YdMan, "#####.##"));
     txtNYd.setLocked(true);
-    computed(cmdCOMPUTE);
+    finishCompute(cmdCOMPUTE);
 }

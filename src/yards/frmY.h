@@ -11,7 +11,7 @@ class frmT1;
 /// Shown and printed only; no other screen reads it.
 class frmY : public flow::ImportScreen {
 public:
-    static constexpr int MostYards = 12;
+    static constexpr int MaxYards = 12;
 
     frmY(flow::Chain& chain, const frmStart& start, const frmT1& t1);
 
@@ -20,13 +20,13 @@ public:
     controls::TextBox txtNYd{"txtNYd"};
 
     // The yards; element 12 is the column's total.
-    controls::ControlArray<controls::TextBox> txtStn{"txtStn", MostYards};
-    controls::ControlArray<controls::TextBox> txtM1{"txtM1", MostYards + 1};
-    controls::ControlArray<controls::TextBox> txtM2{"txtM2", MostYards + 1};
-    controls::ControlArray<controls::TextBox> TXTM3{"TXTM3", MostYards + 1};
-    controls::ControlArray<controls::TextBox> TXTM4{"TXTM4", MostYards + 1};
-    controls::ControlArray<controls::TextBox> txtM5{"txtM5", MostYards + 1};
-    controls::ControlArray<controls::TextBox> txtM6{"txtM6", MostYards + 1};
+    controls::ControlArray<controls::TextBox> txtStn{"txtStn", MaxYards};
+    controls::ControlArray<controls::TextBox> txtM1{"txtM1", MaxYards + 1};
+    controls::ControlArray<controls::TextBox> txtM2{"txtM2", MaxYards + 1};
+    controls::ControlArray<controls::TextBox> TXTM3{"TXTM3", MaxYards + 1};
+    controls::ControlArray<controls::TextBox> TXTM4{"TXTM4", MaxYards + 1};
+    controls::ControlArray<controls::TextBox> txtM5{"txtM5", MaxYards + 1};
+    controls::ControlArray<controls::TextBox> txtM6{"txtM6", MaxYards + 1};
 
     controls::TextBox txtYd4{"txtYd4"};  ///< yard mandays of the Sr SE
 
@@ -36,12 +36,12 @@ public:
     int NYd = 0;  ///< yards, 12 at most
 
     // As computed, yard by yard: lines in km (1 machine packed, 2 manually packed, 3 non-running), turnouts on them.
-    std::array<double, MostYards + 1> Yd1{};
-    std::array<double, MostYards + 1> Yd2{};
-    std::array<double, MostYards + 1> Yd3{};
-    std::array<double, MostYards + 1> Yd4{};
-    std::array<double, MostYards + 1> Yd5{};
-    std::array<float, MostYards + 1> Yd6{};
+    std::array<double, MaxYards + 1> Yd1{};
+    std::array<double, MaxYards + 1> Yd2{};
+    std::array<double, MaxYards + 1> Yd3{};
+    std::array<double, MaxYards + 1> Yd4{};
+    std::array<double, MaxYards + 1> Yd5{};
+    std::array<float, MaxYards + 1> Yd6{};
     // The columns' sums. A Compute adds to them.
     double Sum1 = 0.0;
     double Sum2 = 0.0;

@@ -9,7 +9,7 @@ namespace yards {
 namespace {
 
 using figures::numbered;
-using figures::toDouble;
+using figures::requireFinite;
 using figures::toSingle;
 
 const YardNorm& normOf(std::string_view gauge)
@@ -26,11 +26,11 @@ YardLines addYards(const YardLines& sums, std::span<const YardLines> yards)
     YardLines total = sums;
     for (int row = 0; const YardLines& yard : yards) {
         const std::string what = numbered("the column total at yard", row);
-        total.machineKm = toDouble(total.machineKm + yard.machineKm, what, row);
-        total.manualKm = toDouble(total.manualKm + yard.manualKm, what, row);
-        total.nonRunningKm = toDouble(total.nonRunningKm + yard.nonRunningKm, what, row);
-        total.machineTurnouts = toDouble(total.machineTurnouts + yard.machineTurnouts, what, row);
-        total.manualTurnouts = toDouble(total.manualTurnouts + yard.manualTurnouts, what, row);
+        total.machineKm = requireFinite(total.machineKm + yard.machineKm, what, row);
+        total.manualKm = requireFinite(total.manualKm + yard.manualKm, what, row);
+        total.nonRunningKm = requireFinite(total.nonRunningKm + yard.nonRunningKm, what, row);
+        total.machineTurnouts = requireFinite(total.machineTurnouts + yard.machineTurnouts, what, row);
+        total.manualTurnouts = requireFinite(total.manualTurnouts + yard.manualTurnouts, what, row);
         total.nonRunningTurnouts = toSingle(total.nonRunningTurnouts + yard.nonRunningTurnouts, what, row);
         ++row;
     }

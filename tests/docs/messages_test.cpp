@@ -141,7 +141,7 @@ std::vector<std::string> composedTexts()
         saidBy([&] { table.text(0, 21); }),
         saidBy([] { figures::valueOf("1e999"); }),
         saidBy([] { figures::toSingle(1e300, "the rainfall of segment 1"); }),
-        saidBy([] { figures::toDouble(1e308 * 10, "the total km of segment 1"); }),
+        saidBy([] { figures::requireFinite(1e308 * 10, "the total km of segment 1"); }),
         saidBy([] { figures::toInt16(40000, "the number of men of beat length 1"); }),
         saidBy([] { site::lookOutMandays(std::vector<site::GangLength>(1)); }),
         saidBy([&] {

@@ -66,7 +66,7 @@ const std::vector<Rate> Rates = {
     RATE(misc::ColdWeatherPerKm),
     RATE(misc::RestDaysPerKeyman),
     RATE(misc::ShiftsPerStore),
-    RATE(misc::MostStoreLocations),
+    RATE(misc::MaxStoreLocations),
     RATE(site::TunnelPerMetre),
     RATE(site::BridgePerMetre),
     RATE(site::LongGirderPerMetre),

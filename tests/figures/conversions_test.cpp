@@ -8,8 +8,8 @@
 #include <string>
 
 using figures::ErrorKind;
+using figures::requireFinite;
 using figures::RunTimeError;
-using figures::toDouble;
 using figures::toInt16;
 using figures::toSingle;
 using figures::wholeRows;
@@ -92,13 +92,13 @@ TEST(ToSingle, OverflowsBeyondASingle)
 TEST(ToDouble, PassesWhatIsFinite)
 {
     for (const double value : {0.0, -1.5, 1e308, -1e308, 5e-324})
-        EXPECT_EQ(toDouble(value, "it"), value);
+        EXPECT_EQ(requireFinite(value, "it"), value);
 }
 
 TEST(ToDouble, OverflowsWhenNotFinite)
 {
     for (const double value : {Infinite, -Infinite, NotANumber}) {
-        const auto error = errorOf([&] { toDouble(value, "the sum", 7); });
+        const auto error = errorOf([&] { requireFinite(value, "the sum", 7); });
         EXPECT_EQ(error.kind(), ErrorKind::Overflow);
         EXPECT_EQ(error.row(), 7);
         EXPECT_STREQ(error.what(), "Overflow: the sum is too large to compute with.");

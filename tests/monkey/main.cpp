@@ -14,8 +14,8 @@
 #include <exception>
 
 #include "compose.h"
-#include "monkey/hands.h"
-#include "monkey/watch.h"
+#include "monkey/invariants.h"
+#include "monkey/random_user.h"
 #include "screens/flow/end_requests.h"
 
 namespace {
@@ -44,11 +44,11 @@ struct Run {
         watch.before();
     }
 
-    Answers answers;
+    RandomDialogs answers;
     flow::Chain chain;
     flow::EndRequests requests;
-    Hands hands;
-    Watch watch;
+    RandomUser hands;
+    Invariants watch;
 };
 
 struct Tally {
@@ -76,8 +76,9 @@ bool step(Run& run, Tally& tally, bool log)
     tally.slowest = std::max(tally.slowest, took);
     if (took > LongestStep)
         wrong.push_back("it took " + std::to_string(took) + " ms");
-    const bool printerGaveOut = std::any_of(run.answers.given.begin(), run.answers.given.end(),
-                                            [](const auto& box) { return box.printOut == Answers::PrintOut::Lost; });
+    const bool printerGaveOut = std::any_of(run.answers.given.begin(), run.answers.given.end(), [](const auto& box) {
+        return box.printOut == RandomDialogs::PrintOut::Lost;
+    });
     for (const QString& warning : printerGaveOut ? QStringList() : warnings)
         wrong.push_back("the toolkit warns: " + warning.toStdString());
     for (const std::string& one : run.watch.after(run.hands.workedOn()))
@@ -90,7 +91,7 @@ bool step(Run& run, Tally& tally, bool log)
         std::printf("%d: %s\n", tally.steps, qPrintable(run.hands.told()));
     for (const std::string& one : wrong)
         std::printf("  WRONG: %s\n", one.c_str());
-    for (const Answers::Given& box : run.answers.given)
+    for (const RandomDialogs::Given& box : run.answers.given)
         if (log || !wrong.empty())
             std::printf("  box \"%s\": %s%s\n", qPrintable(box.title), qPrintable(box.text), box.yes ? " - yes" : "");
     if (log)

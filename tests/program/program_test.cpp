@@ -6,7 +6,7 @@
 #include <csignal>
 #include <gtest/gtest.h>
 
-#include "program/house.h"
+#include "program/sandbox_home.h"
 
 namespace {
 
@@ -56,7 +56,7 @@ protected:
         }
     }
 
-    House house;
+    SandboxHome house;
     bool session = true;  ///< a desktop's session that gives it a folder for sockets
     QProcess process;
 };

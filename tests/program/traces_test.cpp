@@ -13,14 +13,14 @@
 #include <gtest/gtest.h>
 
 #include "compose.h"
-#include "program/house.h"
+#include "program/sandbox_home.h"
 #include "screens/flow/chain.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "summary/frmSummary.h"
 
 namespace {
 
-House* house = nullptr;
+SandboxHome* house = nullptr;
 
 /// Answers the desktop's boxes, each as soon as it stands there.
 class Clerk {
@@ -111,7 +111,7 @@ TEST(Traces, AWholeSrSeLeavesNothingButItsPrintOuts)
 int main(int argc, char* argv[])
 {
     testing::InitGoogleTest(&argc, argv);
-    house = new House;
+    house = new SandboxHome;
     for (const auto& [name, value] : house->environment())
         qputenv(name, value);
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -1,6 +1,6 @@
 #include <QTemporaryDir>
 
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "track/frmT4.h"
 #include "track/ground_screen.h"
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
 

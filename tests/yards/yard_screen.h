@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
 #include "yards/frmY.h"

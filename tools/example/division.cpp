@@ -13,7 +13,7 @@
 #include "example_dialogs.h"
 #include "hands.h"
 #include "screens/flow/chain.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "summary/frmSummary.h"
 #include "track/frmT1.h"
 #include "track/frmT2.h"

@@ -5,9 +5,9 @@
 #include "activities/misc/misc_norms.h"
 #include "figures/numeric_text.h"
 #include "figures/picture.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "track/frmT1.h"
-#include "track/header.h"
+#include "track/sr_se_header.h"
 
 using controls::addField;
 using controls::Caption;
@@ -27,7 +27,7 @@ using Column = controls::ControlArray<TextBox>;
 /// Numbers and shows the first `count` rows. Hidden rows keep their texts.
 void buildRows(int count, const Column& numbers, std::initializer_list<const Column*> columns)
 {
-    for (int i = 0; i < frmM1::MostRows; ++i) {
+    for (int i = 0; i < frmM1::MaxRows; ++i) {
         const bool inUse = i < count;
         if (inUse)
             numbers(i).setText(QString::number(i + 1));
@@ -39,7 +39,7 @@ void buildRows(int count, const Column& numbers, std::initializer_list<const Col
 
 void prepareRows(const Column& numbers, std::initializer_list<const Column*> columns)
 {
-    for (int i = 0; i < frmM1::MostRows; ++i) {
+    for (int i = 0; i < frmM1::MaxRows; ++i) {
         numbers(i).setNumeric();
         numbers(i).setLocked(true);
         for (const Column* column : columns)
@@ -54,7 +54,7 @@ void addCount(Section& section, const QString& caption, TextBox& count, const QS
 {
     QHBoxLayout& line = section.line();
     addField(line, caption, count, CountWidth);
-    count.setLimit(frmM1::MostRows);
+    count.setLimit(frmM1::MaxRows);
     auto* limit = new Caption(note);
     limit->setMinimumWidth(limit->sizeHint().width() / 2);  // in a narrow window no tower of single words
     line.addWidget(limit, 1);
@@ -96,16 +96,16 @@ frmM1::frmM1(flow::Chain& owner, const frmStart& start, const frmT1& t1)
 
 void frmM1::layOut()
 {
-    QHBoxLayout& who = layout.headerLine();
+    QHBoxLayout& who = form.headerLine();
     track::addHeader(who, m_t1, txtT1);
     addDate(who);
 
-    layout.sections({{monsoonPatrolling()},
-                     {weatherPatrolling("M.2-Hot Weather Patrolling- Monsoon Patrollong :--", txtHLWR, txtMan2),
-                      weatherPatrolling("M.3-Cold Weather Patrolling-", txtCLWR, txtMan3), vulnerableLocations()}});
+    form.sections({{monsoonPatrolling()},
+                   {weatherPatrolling("M.2-Hot Weather Patrolling- Monsoon Patrollong :--", txtHLWR, txtMan2),
+                    weatherPatrolling("M.3-Cold Weather Patrolling-", txtCLWR, txtMan3), vulnerableLocations()}});
 
     addGrid(cmdData);
-    layout.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
+    form.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
     for (controls::Button* final : {&cmdPrint, &cmdNext})
         final->setToolTip(flow::LockTip);
 }
@@ -116,7 +116,7 @@ Section* frmM1::monsoonPatrolling()
     addCount(*section, "Total Number of Beat Lengths ?", txtNB, "Data for a maximum of 12 beat lengths can be entered",
              "Calculated Mandays - ", txtman1);
     prepareRows(txtTB, {&txtND, &txtBL, &txtNS, &txtNM});
-    auto* rows = new RowSheet("beat length", MostRows);
+    auto* rows = new RowSheet("beat length", MaxRows);
     rows->heading("Beat Length Number- ");
     rows->column(txtTB, 7);
     rows->heading("     Number of days needing                  Patrolling in the beat length");
@@ -138,7 +138,7 @@ Section* frmM1::vulnerableLocations()
     addCount(*section, "No. of vulnerable Locations-", txtVL,
              "Data for a max of 12 vulnerable locations can be entered", "Mandays Calculated-", txtMan4);
     prepareRows(txtNVL, {&txtDV, &txtDS});
-    auto* rows = new RowSheet("location", MostRows);
+    auto* rows = new RowSheet("location", MaxRows);
     rows->heading("Vulnerable  Location Number- ");
     rows->column(txtNVL, 10);
     rows->heading("No of Days Watching required at the Location-");
@@ -152,13 +152,13 @@ Section* frmM1::vulnerableLocations()
 
 void frmM1::txtNB_Change()
 {
-    m_beatLengths = countOf(txtNB, MostRows);
+    m_beatLengths = countOf(txtNB, MaxRows);
     buildRows(m_beatLengths, txtTB, {&txtND, &txtNS, &txtBL, &txtNM});
 }
 
 void frmM1::txtVL_Change()
 {
-    m_locations = countOf(txtVL, MostRows);
+    m_locations = countOf(txtVL, MaxRows);
     buildRows(m_locations, txtNVL, {&txtDV, &txtDS});
 }
 
@@ -180,18 +180,18 @@ void frmM1::cmdData_Click()
         txtDV(i).setText(cell(9, 3 + i));
         txtDS(i).setText(cell(10, 3 + i));
     }
-    imported(cmdCompute);
+    finishImport(cmdCompute);
 }
 
 void frmM1::cmdCompute_Click()
 {
-    std::array<misc::BeatLength, MostRows> beatLengths;
+    std::array<misc::BeatLength, MaxRows> beatLengths;
     for (int i = 0; i < m_beatLengths; ++i)
         beatLengths[static_cast<std::size_t>(i)] = {.days = valueOf(txtND(i)),
                                                     .shifts = valueOf(txtNS(i)),
                                                     .beats = valueOf(txtBL(i)),
                                                     .men = valueOf(txtNM(i))};
-    std::array<misc::VulnerableLocation, MostRows> locations;
+    std::array<misc::VulnerableLocation, MaxRows> locations;
     for (int i = 0; i < m_locations; ++i)
         locations[static_cast<std::size_t>(i)] = {.days = valueOf(txtDV(i)), .shifts = valueOf(txtDS(i))};
 
@@ -214,5 +214,5 @@ void frmM1::cmdCompute_Click()
     setText(txtMan4, picture(vulnerable, "####"));
     txtNB.setLocked(true);
     txtVL.setLocked(true);
-    computed(cmdCompute);
+    finishCompute(cmdCompute);
 }

@@ -9,7 +9,7 @@ class frmT1;
 /// vulnerable locations.
 class frmM1 : public flow::ImportScreen {
 public:
-    static constexpr int MostRows = 12;  ///< beat lengths, and vulnerable locations
+    static constexpr int MaxRows = 12;  ///< beat lengths, and vulnerable locations
 
     frmM1(flow::Chain& chain, const frmStart& start, const frmT1& t1);
 
@@ -18,11 +18,11 @@ public:
 
     // M.1, a row for each beat length: its number, days, beats, shifts, men per shift.
     controls::TextBox txtNB{"txtNB"};
-    controls::ControlArray<controls::TextBox> txtTB{"txtTB", MostRows};
-    controls::ControlArray<controls::TextBox> txtND{"txtND", MostRows};
-    controls::ControlArray<controls::TextBox> txtBL{"txtBL", MostRows};
-    controls::ControlArray<controls::TextBox> txtNS{"txtNS", MostRows};
-    controls::ControlArray<controls::TextBox> txtNM{"txtNM", MostRows};
+    controls::ControlArray<controls::TextBox> txtTB{"txtTB", MaxRows};
+    controls::ControlArray<controls::TextBox> txtND{"txtND", MaxRows};
+    controls::ControlArray<controls::TextBox> txtBL{"txtBL", MaxRows};
+    controls::ControlArray<controls::TextBox> txtNS{"txtNS", MaxRows};
+    controls::ControlArray<controls::TextBox> txtNM{"txtNM", MaxRows};
     controls::TextBox txtman1{"txtman1"};
 
     // M.2 and M.3: long welded rail on single line basis [km], to look at; Compute reads frmT1's own figure.
@@ -33,9 +33,9 @@ public:
 
     // M.4, a row for each location: its number, days, shifts.
     controls::TextBox txtVL{"txtVL"};
-    controls::ControlArray<controls::TextBox> txtNVL{"txtNVL", MostRows};
-    controls::ControlArray<controls::TextBox> txtDV{"txtDV", MostRows};
-    controls::ControlArray<controls::TextBox> txtDS{"txtDS", MostRows};
+    controls::ControlArray<controls::TextBox> txtNVL{"txtNVL", MaxRows};
+    controls::ControlArray<controls::TextBox> txtDV{"txtDV", MaxRows};
+    controls::ControlArray<controls::TextBox> txtDS{"txtDS", MaxRows};
     controls::TextBox txtMan4{"txtMan4"};
 
     controls::Button cmdData{"cmdData", "&Data from File"};

@@ -6,9 +6,9 @@
 #include "activities/misc/misc_norms.h"
 #include "figures/numeric_text.h"
 #include "figures/picture.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "track/frmT1.h"
-#include "track/header.h"
+#include "track/sr_se_header.h"
 
 using controls::addField;
 using controls::Caption;
@@ -60,11 +60,11 @@ frmM2::frmM2(flow::Chain& owner, const frmStart& start, const frmT1& t1, const f
 
 void frmM2::layOut(const frmT1& t1)
 {
-    QHBoxLayout& who = layout.headerLine();
+    QHBoxLayout& who = form.headerLine();
     track::addHeader(who, t1, txtT1);
     addDate(who);
 
-    layout.sections(
+    form.sections(
         {{gateKeeping()},
          {activity("M.6- Rest giving for Keyman-", "Number of Keyman beats-", txtKbeats, txtMan6),
           activity("M.7- Waterman duty-", "Number of Gangs-", txtNG, txtMan7),
@@ -73,16 +73,16 @@ void frmM2::layOut(const frmT1& t1)
                    "2)",
                    txtSL, txtMan8,
                    {{"Number of Store Locations -"}, {"(in addition to Sr S.E.'s H.Q."}, {"(not to exceed 2)"}})}});
-    txtSL.setLimit(misc::MostStoreLocations);
+    txtSL.setLimit(misc::MaxStoreLocations);
 
-    QHBoxLayout& total = layout.lineBelow();
+    QHBoxLayout& total = form.lineBelow();
     total.addStretch();
     addField(total, "Total Number of Calculated Mandays for Miscelleneous Activities - ", txtMan9, FigureWidth);
     txtMan9.setNumeric();
     txtMan9.setLocked(true);
 
     addGrid(cmdData);
-    layout.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
+    form.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
     for (controls::Button* final : {&cmdPrint, &cmdNext})
         final->setToolTip(flow::LockTip);
 }
@@ -117,17 +117,17 @@ void frmM2::cmdData_Click()
     txtKbeats.setText(cell(5, 2));
     txtNG.setText(cell(7, 2));
     txtSL.setText(cell(9, 2));
-    imported(cmdCompute);
+    finishImport(cmdCompute);
 }
 
 // Not always whole; what is more than the most is rewritten.
 double frmM2::storeLocations()
 {
-    const double stores = figures::countUpTo(misc::MostStoreLocations + 1, txtSL.text().toStdString());
-    if (stores <= misc::MostStoreLocations)
+    const double stores = figures::countUpTo(misc::MaxStoreLocations + 1, txtSL.text().toStdString());
+    if (stores <= misc::MaxStoreLocations)
         return stores;
-    txtSL.setText(QString::number(misc::MostStoreLocations));
-    return misc::MostStoreLocations;
+    txtSL.setText(QString::number(misc::MaxStoreLocations));
+    return misc::MaxStoreLocations;
 }
 
 void frmM2::cmdCompute_Click()
@@ -154,5 +154,5 @@ void frmM2::cmdCompute_Click()
     setText(txtMan9, picture(TotalMandays, "#####"));
     for (TextBox* entered : {&txtNLC, &txtKbeats, &txtNG, &txtSL})
         entered->setLocked(true);
-    computed(cmdCompute);
+    finishCompute(cmdCompute);
 }

@@ -8,7 +8,7 @@
 namespace misc {
 
 using figures::numbered;
-using figures::toDouble;
+using figures::requireFinite;
 using figures::toInt16;
 using figures::toSingle;
 
@@ -16,8 +16,8 @@ double addMonsoonPatrolling(double mandays, std::span<const BeatLength> beatLeng
 {
     for (int row = 0; const BeatLength& beat : beatLengths) {
         const int men = toInt16(beat.men, numbered("the number of men of beat length", row), row);
-        mandays = toDouble(mandays + beat.days * beat.shifts * beat.beats * men,
-                           numbered("the number of M.1 mandays at beat length", row), row);
+        mandays = requireFinite(mandays + beat.days * beat.shifts * beat.beats * men,
+                                numbered("the number of M.1 mandays at beat length", row), row);
         ++row;
     }
     return mandays;
@@ -53,26 +53,26 @@ double gateKeeping(std::span<const LevelCrossings> crossings, double sanctionedP
     double mandays = 0.0;
     for (int row = 0; const LevelCrossings& group : crossings) {
         const int shifts = toInt16(group.shifts, numbered("the number of shifts of level crossings", row), row);
-        mandays = toDouble(mandays + group.crossings * DaysPerYear * shifts,
-                           numbered("the number of M.5 mandays at level crossings", row), row);
+        mandays = requireFinite(mandays + group.crossings * DaysPerYear * shifts,
+                                numbered("the number of M.5 mandays at level crossings", row), row);
         ++row;
     }
-    return toDouble(mandays - MandaysPerMan * sanctionedPosts, "the number of M.5 mandays");
+    return requireFinite(mandays - MandaysPerMan * sanctionedPosts, "the number of M.5 mandays");
 }
 
 double keymanRest(double keymanBeats)
 {
-    return toDouble(RestDaysPerKeyman * keymanBeats, "the number of M.6 mandays");
+    return requireFinite(RestDaysPerKeyman * keymanBeats, "the number of M.6 mandays");
 }
 
 double watermanDuty(double gangs)
 {
-    return toDouble(MandaysPerMan * gangs, "the number of M.7 mandays");
+    return requireFinite(MandaysPerMan * gangs, "the number of M.7 mandays");
 }
 
 float storeWatchmanDuty(double storeLocations)
 {
-    return toSingle(std::min<double>(storeLocations, MostStoreLocations) * ShiftsPerStore * DaysPerYear,
+    return toSingle(std::min<double>(storeLocations, MaxStoreLocations) * ShiftsPerStore * DaysPerYear,
                     "the number of M.8 mandays");
 }
 

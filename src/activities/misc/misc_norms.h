@@ -13,7 +13,7 @@ inline constexpr float HotWeatherPerKm        = 30;   ///< M.2  per km of long w
 inline constexpr float ColdWeatherPerKm       = 12;   ///< M.3  per km of long welded rail [manday/km]
 inline constexpr int   RestDaysPerKeyman      = DaysPerYear - MandaysPerMan;  ///< M.6  per keyman beat [manday/beat]
 inline constexpr int   ShiftsPerStore         = 3;    ///< M.8  round the clock [shift/day]
-inline constexpr int   MostStoreLocations     = 2;    ///< M.8  besides the headquarters
+inline constexpr int   MaxStoreLocations     = 2;    ///< M.8  besides the headquarters
 // clang-format on
 
 // All functions throw RunTimeError (overflow; with the row counted from 0 where they take rows).
@@ -63,7 +63,7 @@ double keymanRest(double keymanBeats);
 /// M.7 waterman duty, one man a gang [manday/year].
 double watermanDuty(double gangs);
 
-/// M.8 store watchman duty [manday/year], rounded to single. More than MostStoreLocations count as that many.
+/// M.8 store watchman duty [manday/year], rounded to single. More than MaxStoreLocations count as that many.
 float storeWatchmanDuty(double storeLocations);
 
 /// All of 'M' [manday/year], added as doubles in this order, the sum rounded to single. `first`: the total of M.1 to

@@ -4,9 +4,9 @@
 
 #include "figures/conversions.h"
 #include "figures/picture.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "track/frmT1.h"
-#include "track/header.h"
+#include "track/sr_se_header.h"
 
 using controls::BoxLines;
 using controls::Caption;
@@ -64,14 +64,14 @@ frmS1::frmS1(flow::Chain& owner, const frmStart& start, const frmT1& t1)
 
 void frmS1::layOut(const frmT1& t1)
 {
-    QHBoxLayout& who = layout.headerLine();
+    QHBoxLayout& who = form.headerLine();
     track::addHeader(who, t1, txtT1);
     addDate(who);
 
     auto* across = new QHBoxLayout;
     auto* down = new QVBoxLayout;
     down->setSpacing(SectionSpacing);
-    layout.sections().addLayout(across);
+    form.sections().addLayout(across);
     across->addLayout(down);
     across->addStretch();  // the results stand near what they come from
     down->addWidget(structures(0, "S.1- Tunnel Maintenance -", "     Length of Tunnel in Metres-", txtman10));
@@ -82,7 +82,7 @@ void frmS1::layOut(const frmT1& t1)
     down->addWidget(sharpCurves());
 
     addGrid(cmdData);
-    layout.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
+    form.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
     for (controls::Button* final : {&cmdPrint, &cmdNext})
         final->setToolTip(flow::LockTip);
 }
@@ -128,7 +128,7 @@ void frmS1::cmdData_Click()
     for (int i = 0; i < Curves; ++i)
         txtND(i).setText(cell(RowOfKind[static_cast<std::size_t>(i / TrackCounts)], FirstColumn + i % TrackCounts));
     txtND(Curves).setText(cell(CurvesRow, FirstColumn));
-    imported(cmdCompute);
+    finishImport(cmdCompute);
 }
 
 float frmS1::lengthOf(int i) const
@@ -161,5 +161,5 @@ void frmS1::cmdCompute_Click()
     setText(txtMan11, picture(mandays.bridges, "#####"));
     setText(txtMan12, picture(mandays.longGirders, "#####"));
     setText(txtMan13, picture(mandays.sharpCurves, "#####"));
-    computed(cmdCompute);
+    finishCompute(cmdCompute);
 }

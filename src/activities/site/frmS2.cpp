@@ -7,9 +7,9 @@
 #include "activities/site/site_norms.h"
 #include "figures/conversions.h"
 #include "figures/picture.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "track/frmT1.h"
-#include "track/header.h"
+#include "track/sr_se_header.h"
 
 using controls::BoxLines;
 using controls::Caption;
@@ -20,9 +20,9 @@ using figures::picture;
 
 namespace {
 
-constexpr int MostLocations = 8;
-constexpr int MostGangs = 9;
-constexpr int MostWaterLocations = 6;
+constexpr int MaxLocations = 8;
+constexpr int MaxGangs = 9;
+constexpr int MaxWaterLocations = 6;
 
 // Where the blocks of txtND begin.
 constexpr int Location = 0;
@@ -103,16 +103,16 @@ void frmS2::layOut(const frmT1& t1)
         const bool ofACount = i < FogSignalYears || i >= Shifts;
         txtND(i).setVisible(!ofACount);
     }
-    txtTB1.setLimit(MostLocations);
-    txtTB2.setLimit(MostGangs);
+    txtTB1.setLimit(MaxLocations);
+    txtTB2.setLimit(MaxGangs);
     txtTB3.setNumeric();
-    txtTB4.setLimit(MostWaterLocations);
+    txtTB4.setLimit(MaxWaterLocations);
 
-    QHBoxLayout& who = layout.headerLine();
+    QHBoxLayout& who = form.headerLine();
     track::addHeader(who, t1, txtT1);
     addDate(who);
 
-    layout.sections(
+    form.sections(
         {{badFormations(), lookOut(),
           pastYears("S.7-Fogsignal man duty-",
                     "Total mandays actually utilised in     the past 3  years for this duty-", FogSignalYears,
@@ -122,14 +122,14 @@ void frmS2::layOut(const frmT1& t1)
                     SecurityYears, txtMan18),
           waterLevels(t1.chkSub.checkState() == Qt::Checked)}});
 
-    QHBoxLayout& sum = layout.lineBelow();
+    QHBoxLayout& sum = form.lineBelow();
     sum.addStretch();
     controls::addField(sum, "Total Number of Calculated Mandays for 'S' Activities - ", txtMan20, ResultCharacters);
     txtMan20.setNumeric();
     txtMan20.setLocked(true);
 
     addGrid(cmdData);
-    layout.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
+    form.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
     for (controls::Button* final : {&cmdPrint, &cmdNext})
         final->setToolTip(flow::LockTip);
 }
@@ -201,7 +201,7 @@ Section* frmS2::waterLevels(bool suburban)
 
 void frmS2::txtTB1_Change()
 {
-    m_locations = countOf(txtTB1, MostLocations);
+    m_locations = countOf(txtTB1, MaxLocations);
     for (int i = 0; i < m_locations; ++i)
         txtND(i).setVisible(true);
     // Four boxes further than the locations go: the first four gangs' visibility boxes go too, until the number of
@@ -212,16 +212,16 @@ void frmS2::txtTB1_Change()
 
 void frmS2::txtTB2_Change()
 {
-    m_gangs = countOf(txtTB2, MostGangs);
-    for (int gang = 0; gang < MostGangs; ++gang)
+    m_gangs = countOf(txtTB2, MaxGangs);
+    for (int gang = 0; gang < MaxGangs; ++gang)
         for (const int block : {PoorVisibility, GangLength})
             txtND(block + gang).setVisible(gang < m_gangs);
 }
 
 void frmS2::txtTB4_Change()
 {
-    m_waterLocations = countOf(txtTB4, MostWaterLocations);
-    for (int location = 0; location < MostWaterLocations; ++location)
+    m_waterLocations = countOf(txtTB4, MaxWaterLocations);
+    for (int location = 0; location < MaxWaterLocations; ++location)
         for (const int block : {Shifts, Days})
             txtND(block + location).setVisible(location < m_waterLocations);
 }
@@ -244,7 +244,7 @@ void frmS2::cmdData_Click()
           Block{SecurityYears, Shifts - 1, 13}, Block{Shifts, Days - 1, 16}, Block{Days, Values - 1, 17}})
         for (int i = block.first; i <= block.last; ++i)
             txtND(i).setText(cell(block.row, 3 + i - block.first));
-    imported(cmdCompute);
+    finishImport(cmdCompute);
 }
 
 std::array<float, frmS2::Values> frmS2::readValues()
@@ -262,11 +262,11 @@ void frmS2::cmdCompute_Click()
     const auto value = [&](int block, int place) { return values[static_cast<std::size_t>(block + place)]; };
     const auto years = [&](int block) { return std::array{value(block, 0), value(block, 1), value(block, 2)}; };
 
-    std::array<site::GangLength, MostGangs> gangs;
+    std::array<site::GangLength, MaxGangs> gangs;
     for (int gang = 0; gang < m_gangs; ++gang)
         gangs[static_cast<std::size_t>(gang)] = {.poorVisibilityKm = value(PoorVisibility, gang),
                                                  .lengthKm = value(GangLength, gang)};
-    std::array<site::WatchedWater, MostWaterLocations> waters;
+    std::array<site::WatchedWater, MaxWaterLocations> waters;
     for (int location = 0; location < m_waterLocations; ++location)
         waters[static_cast<std::size_t>(location)] = {.shifts = value(Shifts, location), .days = value(Days, location)};
 
@@ -290,5 +290,5 @@ void frmS2::cmdCompute_Click()
     setText(txtMan20, picture(TotalMandays, "####"));
     for (TextBox* count : {&txtTB1, &txtTB2, &txtTB3, &txtTB4})
         count->setLocked(true);
-    computed(cmdCompute);
+    finishCompute(cmdCompute);
 }

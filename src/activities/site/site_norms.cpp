@@ -11,7 +11,7 @@ namespace site {
 namespace {
 
 using figures::numbered;
-using figures::toDouble;
+using figures::requireFinite;
 using figures::toSingle;
 
 [[noreturn]] void noShare(const GangLength& gang, int row)
@@ -27,8 +27,8 @@ using figures::toSingle;
 double addTrackMetres(double trackMetres, std::span<const Structures> structures)
 {
     for (int row = 0; const Structures& structure : structures) {
-        trackMetres = toDouble(trackMetres + structure.tracks * structure.lengthM,
-                               numbered("the sum of track metres at row", row), row);
+        trackMetres = requireFinite(trackMetres + structure.tracks * structure.lengthM,
+                                    numbered("the sum of track metres at row", row), row);
         ++row;
     }
     return trackMetres;
@@ -36,17 +36,17 @@ double addTrackMetres(double trackMetres, std::span<const Structures> structures
 
 double tunnelMandays(double trackMetres)
 {
-    return toDouble(TunnelPerMetre * trackMetres, "the number of S.1 mandays");
+    return requireFinite(TunnelPerMetre * trackMetres, "the number of S.1 mandays");
 }
 
 double bridgeMandays(double trackMetres)
 {
-    return toDouble(BridgePerMetre * trackMetres, "the number of S.2 mandays");
+    return requireFinite(BridgePerMetre * trackMetres, "the number of S.2 mandays");
 }
 
 double longGirderMandays(double trackMetres)
 {
-    return toDouble(LongGirderPerMetre * trackMetres, "the number of S.3 mandays");
+    return requireFinite(LongGirderPerMetre * trackMetres, "the number of S.3 mandays");
 }
 
 float sharpCurveMandays(float curveKm)
@@ -85,7 +85,7 @@ float averageMandays(const std::array<float, AveragedYears>& mandays)
 
 double filthRemovalMandays(double gangs)
 {
-    return toDouble(misc::MandaysPerMan * gangs, "the number of S.8 mandays");
+    return requireFinite(misc::MandaysPerMan * gangs, "the number of S.8 mandays");
 }
 
 double waterLevelMandays(std::span<const WatchedWater> locations)

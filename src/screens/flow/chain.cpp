@@ -155,7 +155,7 @@ void Chain::bringForward(Screen& screen, const Screen* before)
     }
     screen.setWindowState(screen.windowState() & ~Qt::WindowMinimized);
     screen.show();
-    screen.update();  // it may have been resting
+    screen.update();  // it may have freed its backing store
     screen.raise();
     screen.activateWindow();
     if (first && screen.firstBox())
@@ -163,9 +163,9 @@ void Chain::bringForward(Screen& screen, const Screen* before)
     m_clock.start();
     tick();
     if (first)
-        screen.opened();
+        screen.onFirstShown();
     else
-        screen.shownAgain();
+        screen.onShownAgain();
 }
 
 void Chain::tick()
@@ -183,7 +183,7 @@ void Chain::tick()
     const Screen* const front = inFront();
     for (const Link& link : m_links)
         if (link.screen && link.screen.get() != front)
-            link.screen->rest();
+            link.screen->releaseBackingStore();
 }
 
 }  // namespace flow

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "screens/flow/chain.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 
 namespace flow {
 
@@ -17,7 +17,7 @@ bool DataScreen::mayLeave()
     const bool stay = chain.dialogs().askYesNo(*this, "Forgot to take a print of the Form !",
                                                "Do you want to take a print of the form ?", true);
     if (stay)
-        leadTo(cmdPrint);
+        focusDefault(cmdPrint);
     return !stay;
 }
 
@@ -28,18 +28,18 @@ StepScreen::StepScreen(Chain& owner, const QString& name, const QString& caption
     onClick(cmdNext, &StepScreen::cmdNext_Click);
 }
 
-void StepScreen::computed(controls::Button& compute)
+void StepScreen::finishCompute(controls::Button& compute)
 {
     cmdNext.setEnabled(true);
     cmdPrint.setEnabled(true);
-    leadTo(cmdPrint);
+    focusDefault(cmdPrint);
     compute.setEnabled(false);
 }
 
-void StepScreen::printed()
+void StepScreen::onPrinted()
 {
-    DataScreen::printed();
-    leadTo(cmdNext);
+    DataScreen::onPrinted();
+    focusDefault(cmdNext);
 }
 
 void StepScreen::cmdNext_Click()
@@ -81,7 +81,7 @@ void ImportScreen::addGrid(controls::Button& import)
     QSizePolicy rest = place->sizePolicy();
     rest.setVerticalStretch(1);  // what the rows leave is the table's
     place->setSizePolicy(rest);
-    layout.addBelow(place);
+    form.addBelow(place);
 }
 
 void ImportScreen::openSource(const QString& path)
@@ -92,7 +92,7 @@ void ImportScreen::openSource(const QString& path)
     if (path.trimmed().isEmpty()) {                              // the box starts with blanks
         m_remark = "No data file chosen";
         grid.hide();
-        tell();
+        updateMessage();
         return;
     }
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -100,55 +100,55 @@ void ImportScreen::openSource(const QString& path)
     QGuiApplication::restoreOverrideCursor();
     m_reason = QString::fromStdString(reading.reason);
     m_remark = m_reason.isEmpty() ? QString::fromStdString(reading.notice) : m_reason;
-    tell();
+    updateMessage();
     grid.setVisible(m_reason.isEmpty());
     if (!m_reason.isEmpty())
         return;
     grid.setTable(std::move(reading.table));
-    markNext(m_import);
+    setDefaultButton(m_import);
 }
 
-void ImportScreen::advise(const QString& advice)
+void ImportScreen::setHint(const QString& advice)
 {
-    m_advice = advice;
-    tell();
+    m_hint = advice;
+    updateMessage();
 }
 
-void ImportScreen::tell()
+void ImportScreen::updateMessage()
 {
     const bool mixed = !m_importedFrom.isEmpty() && m_importedFrom != m_path;
     QStringList texts{m_remark, mixed ? "The figures in the boxes are from another data file." : ""};
     texts.removeAll("");
-    m_message->setText(texts.isEmpty() ? m_advice : texts.join(' '));
+    m_message->setText(texts.isEmpty() ? m_hint : texts.join(' '));
 }
 
-void ImportScreen::opened()
+void ImportScreen::onFirstShown()
 {
     if (!m_reason.isEmpty())
         chain.dialogs().showCritical(*this, m_sourceCaption, m_reason);
 }
 
-void ImportScreen::shownAgain()
+void ImportScreen::onShownAgain()
 {
     const QString path = chain.get<frmStart>().txtT1(1).text();
     if (cmdNext.isEnabled() || path.trimmed().isEmpty() || path == m_path)
         return;
     openSource(path);
-    opened();
+    onFirstShown();
 }
 
-void ImportScreen::imported()
+void ImportScreen::finishImport()
 {
     m_importedFrom = m_path;
-    tell();
+    updateMessage();
 }
 
-void ImportScreen::imported(controls::Button& compute)
+void ImportScreen::finishImport(controls::Button& compute)
 {
-    imported();
+    finishImport();
     m_computeOpened = true;
     compute.setEnabled(true);
-    leadTo(compute);
+    focusDefault(compute);
 }
 
 void ImportScreen::enableByTyping(controls::Button& compute, std::initializer_list<controls::TextBox*> boxes)
@@ -159,7 +159,7 @@ void ImportScreen::enableByTyping(controls::Button& compute, std::initializer_li
                 return;
             m_computeOpened = true;
             compute.setEnabled(true);
-            markNext(&compute);
+            setDefaultButton(&compute);
         });
 }
 

@@ -16,7 +16,7 @@ public:
 protected:
     using Screen::Screen;
 
-    void printed() override { Printed = 1; }
+    void onPrinted() override { Printed = 1; }
 
     /// False if the user wants to stay and print first: Print is then next. Asks only while the screen has not been
     /// printed.
@@ -33,10 +33,10 @@ protected:
 
     /// A Compute that ended well: Next and Print are open, Compute is done for this Sr SE, and the user goes on to
     /// print.
-    void computed(controls::Button& compute);
+    void finishCompute(controls::Button& compute);
 
     /// With the sheet printed, the user goes on to Next.
-    void printed() override;
+    void onPrinted() override;
 
     void cmdNext_Click();
 };
@@ -57,7 +57,7 @@ protected:
 
     /// What is to be done before the import opens, "" for nothing; beside the table's title, where a remark on the file
     /// itself goes first.
-    void advise(const QString& advice);
+    void setHint(const QString& advice);
 
     /// The first keystroke in one of the boxes opens Compute, unless an import has done so already: typing never
     /// opens it a second time, when the figures have been computed.
@@ -65,22 +65,22 @@ protected:
     void enableByTyping(controls::Button& compute, const controls::ControlArray<controls::TextBox>& boxes);
 
     /// To be called by every import that ended well.
-    void imported();
+    void finishImport();
     /// The same where Compute waits for it: Compute is next.
-    void imported(controls::Button& compute);
+    void finishImport(controls::Button& compute);
 
     /// A cell of the grid as text.
     QString cell(int row, int column) const { return grid.TextMatrix(row, column); }
 
-    void opened() override;
+    void onFirstShown() override;
     /// Reads the table of another data file, if the user has chosen another one before Compute; the boxes stay as they
     /// are. A screen that is computed keeps its table too: the summary takes figures from it.
-    void shownAgain() override;
+    void onShownAgain() override;
 
     controls::DataGrid grid;
 
 private:
-    void tell();
+    void updateMessage();
 
     QString m_tableName;
     QString m_sourceCaption;
@@ -88,7 +88,7 @@ private:
     QString m_path;    // of the file that was read
     QString m_reason;  // why it could not be
     QString m_remark;  // on the file
-    QString m_advice;
+    QString m_hint;
     QString m_importedFrom;
     const controls::Button* m_import = nullptr;
     bool m_computeOpened = false;

@@ -71,9 +71,9 @@ private:
 
 // On paper a form is as wide as all of it needs and its parts as high as that asks for, however small or large its
 // window: the same sheet on every desktop. The table of the data file is on it as far as a screen takes it over.
-class PaperSize {
+class LaidOutForPaper {
 public:
-    PaperSize(const QWidget& form, const QList<QWidget*>& parts) : m_width(UsualWidth * form.logicalDpiX() / 96)
+    LaidOutForPaper(const QWidget& form, const QList<QWidget*>& parts) : m_width(UsualWidth * form.logicalDpiX() / 96)
     {
         for (QWidget* part : parts) {
             m_before.append({part, part->size(), areaOf(*part), {}});
@@ -83,7 +83,7 @@ public:
         for (Before& before : m_before)
             stretch(before);
     }
-    ~PaperSize()
+    ~LaidOutForPaper()
     {
         for (const Before& before : m_before) {
             before.part->resize(before.size);
@@ -96,8 +96,8 @@ public:
             before.area->verticalScrollBar()->setValue(before.scrolled.y());
         }
     }
-    PaperSize(const PaperSize&) = delete;
-    PaperSize& operator=(const PaperSize&) = delete;
+    LaidOutForPaper(const LaidOutForPaper&) = delete;
+    LaidOutForPaper& operator=(const LaidOutForPaper&) = delete;
 
     int width() const { return m_width; }
 
@@ -184,7 +184,7 @@ void printForm(QWidget& form, const QList<QWidget*>& parts, QPrinter& printer, i
 {
     if (copies <= 0)
         return;
-    const PaperSize paper(form, parts);
+    const LaidOutForPaper paper(form, parts);
     QSize whole(paper.width(), -Gap);
     for (const QWidget* part : parts)
         whole.rheight() += part->height() + Gap;

@@ -14,8 +14,8 @@
 #include "figures/conversions.h"
 #include "screens/controls/entry.h"
 #include "screens/flow/chain.h"
-#include "screens/flow/frmStart.h"
 #include "screens/flow/printing.h"
+#include "start/frmStart.h"
 
 namespace flow {
 
@@ -27,7 +27,7 @@ constexpr int DateCharacters = 11;
 }
 
 Screen::Screen(Chain& owner, const QString& name, const QString& caption, std::initializer_list<int> railwayBoxes)
-    : txtRly("txtRly", railwayBoxes), chain(owner), layout(*this, caption)
+    : txtRly("txtRly", railwayBoxes), chain(owner), form(*this, caption)
 {
     setObjectName(name);
     setWindowTitle(caption);
@@ -41,7 +41,7 @@ void Screen::Timer1_Timer(const QString& date)
         txtRly(2).setText(date);
 }
 
-void Screen::rest()
+void Screen::releaseBackingStore()
 {
     if (!backingStore() || backingStore()->size().isEmpty())
         return;
@@ -75,8 +75,8 @@ void Screen::cmdPrint_Click()
         figures::toInt16(choice->firstPage, "the first page");
         figures::toInt16(choice->lastPage, "the last page");
         const int copies = figures::toInt16(choice->copies, "the number of copies");
-        printForm(*this, layout.parts(), printer, copies);
-        printed();
+        printForm(*this, form.parts(), printer, copies);
+        onPrinted();
     } catch (const std::exception&) {
         // A print-out that failed shows itself by not lying in the tray; the figures stand, and Print can be repeated.
     }
@@ -86,25 +86,25 @@ void Screen::report(const figures::RunTimeError& error)
 {
     chain.dialogs().showCritical(*this, windowTitle(), error.what());
     if (QWidget* box = error.row() == figures::RunTimeError::NoRow ? nullptr : boxOf(error))
-        goTo(*box);
+        revealBox(*box);
 }
 
-void Screen::goTo(QWidget& box)
+void Screen::revealBox(QWidget& box)
 {
     box.setFocus(Qt::OtherFocusReason);
     controls::bringIntoView(box);
 }
 
-void Screen::markNext(const QPushButton* button)
+void Screen::setDefaultButton(const QPushButton* button)
 {
     for (auto* one : findChildren<QPushButton*>())
         one->setDefault(one == button);
 }
 
-void Screen::leadTo(QPushButton& button)
+void Screen::focusDefault(QPushButton& button)
 {
     button.setFocus();
-    markNext(&button);
+    setDefaultButton(&button);
 }
 
 void Screen::addDate(QBoxLayout& line)

@@ -22,13 +22,13 @@ public:
     virtual bool holdsFigures() const { return true; }
 
     /// Once, when the screen has first been shown.
-    virtual void opened() {}
+    virtual void onFirstShown() {}
     /// Each time it is brought back later.
-    virtual void shownAgain() {}
+    virtual void onShownAgain() {}
 
     /// Gives back the picture that the toolkit keeps of the window, 4 bytes a point. What the user sees stays; the
     /// whole window is painted anew when a covered part of it is uncovered or anything on it changes.
-    void rest();
+    void releaseBackingStore();
 
     /// Where the user starts on this screen.
     virtual QWidget* firstBox() = 0;
@@ -43,7 +43,7 @@ protected:
     /// Prints the form once for each copy asked for. An error ends it quietly.
     void cmdPrint_Click();
     /// Behind the last copy.
-    virtual void printed() {}
+    virtual void onPrinted() {}
 
     /// Runs a handler. A RunTimeError becomes a critical box under the screen's caption, and leaves everything as
     /// the handler left it; the box at fault is brought into view.
@@ -61,12 +61,12 @@ protected:
     virtual QWidget* boxOf(const figures::RunTimeError&) { return nullptr; }
 
     /// Shows the user where to mend something.
-    void goTo(QWidget& box);
+    void revealBox(QWidget& box);
 
     /// Marks the button that the user is to press next, as long as it is enabled, and no other.
-    void markNext(const QPushButton* button);
+    void setDefaultButton(const QPushButton* button);
     /// Gives that button the focus as well: Enter goes on.
-    void leadTo(QPushButton& button);
+    void focusDefault(QPushButton& button);
 
     /// The handler runs unless a box waits for an answer: a press that a mnemonic, a tool or a screen reader sends a
     /// moment late would otherwise work on a screen whose own handler is half-way.
@@ -103,7 +103,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     Chain& chain;
-    controls::FormLayout layout;
+    controls::FormLayout form;
 
 private:
     static bool boxIsOpen();

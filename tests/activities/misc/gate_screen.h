@@ -4,7 +4,7 @@
 
 #include "activities/misc/frmM1.h"
 #include "activities/misc/frmM2.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "support/screen_test.h"
 
 /// A test on the screen of M.5 to M.8.

@@ -39,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(BeatLengths, MonsoonPatrolling, testing::Values(
     BeatCase{"HalfAMan",      { 10.0,  1.0,    1.0,   0.5},       0.0},
     BeatCase{"HalfABeat",     { 10.0,  1.0,    1.5,   1.0},      15.0},   // only the men are whole
     BeatCase{"ADouble",       {  0.1,  3.0,    1.0,   1.0},       0.3},   // which no single is
-    BeatCase{"MostMen",       {  1.0,  1.0,    1.0, 32767.0}, 32767.0},
+    BeatCase{"MaxMen",       {  1.0,  1.0,    1.0, 32767.0}, 32767.0},
     BeatCase{"Empty",         {  0.0,  0.0,    0.0,   0.0},       0.0}),
     [](const auto& tested) { return tested.param.name; });
 // clang-format on

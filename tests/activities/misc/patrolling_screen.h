@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "activities/misc/frmM1.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
 

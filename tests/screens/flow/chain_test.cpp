@@ -4,7 +4,7 @@
 #include <QScreen>
 #include <stdexcept>
 
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
 #include "track/frmT2.h"

@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
 #include "track/frmT2.h"

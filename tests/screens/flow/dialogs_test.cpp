@@ -15,7 +15,7 @@
 #include <QTimer>
 #include <functional>
 
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "support/screen_test.h"
 
 namespace {

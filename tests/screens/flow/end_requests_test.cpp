@@ -11,7 +11,7 @@
 #include <functional>
 
 #include "activities/site/frmS2.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "summary/frmSummary.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"

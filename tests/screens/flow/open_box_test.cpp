@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
 #include "track/frmT2.h"

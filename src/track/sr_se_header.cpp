@@ -1,4 +1,4 @@
-#include "track/header.h"
+#include "track/sr_se_header.h"
 
 #include "screens/controls/form_layout.h"
 #include "track/frmT1.h"

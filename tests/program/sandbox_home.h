@@ -4,9 +4,9 @@
 
 /// A house for one run of the program, with all the places where programs leave things: the home folder, /tmp, the
 /// working folder, the session's own for sockets; and a tray for what the user prints.
-class House {
+class SandboxHome {
 public:
-    House();
+    SandboxHome();
 
     QString home() const { return m_place.filePath("home"); }
     QString temporary() const { return m_place.filePath("tmp"); }

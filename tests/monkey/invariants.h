@@ -5,15 +5,15 @@
 #include <string>
 #include <vector>
 
-#include "monkey/answers.h"
+#include "monkey/random_dialogs.h"
 #include "monkey/screens.h"
 
 namespace monkey {
 
 /// What must hold after every step, whatever the hands did.
-class Watch {
+class Invariants {
 public:
-    Watch(flow::Chain& chain, const Answers& answers);
+    Invariants(flow::Chain& chain, const RandomDialogs& answers);
 
     /// How everything stands before a step.
     void before();
@@ -40,7 +40,7 @@ private:
 
     void meet(Place place, flow::Screen& screen);
     bool pressed(const QString& button) const { return m_pressed.contains(button); }
-    bool answered(Answers::Kind kind, const QString& text, bool yes) const;
+    bool answered(RandomDialogs::Kind kind, const QString& text, bool yes) const;
     std::vector<Published> publishedNow();
 
     void checkLoaded(const Screens& now);
@@ -55,7 +55,7 @@ private:
     void fail(const QString& what);
 
     flow::Chain& m_chain;
-    const Answers& m_answers;
+    const RandomDialogs& m_dialogs;
     Screens m_loaded{};
     std::array<QPointer<QWidget>, Places> m_alive;
     std::array<bool, Places> m_visible{};

@@ -1,4 +1,4 @@
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 
 #include <QFileInfo>
 #include <QGridLayout>
@@ -35,7 +35,7 @@ frmStart::frmStart(flow::Chain& owner)
     txtT1(4).setText("1");
     txtT1(1).setLocked(true);
     txtT1(4).setLocked(true);
-    txtT1(3).setLimit(MostSrSes);
+    txtT1(3).setLimit(MaxSrSes);
     cmdProceed.setEnabled(false);
     cmdPrint.setToolTip(flow::LockTip);
     layOut();
@@ -71,7 +71,7 @@ QWidget* frmStart::titles()
 
 void frmStart::layOut()
 {
-    addDate(layout.headerLine());
+    addDate(form.headerLine());
 
     auto* content = new QWidget;
     auto* across = new QHBoxLayout(content);
@@ -121,11 +121,11 @@ void frmStart::layOut()
     fields->setColumnStretch(1, 1);
     down->addStretch();
 
-    layout.addBelow(content);
+    form.addBelow(content);
     auto* updated = new Caption("Program updated on 31-03-2008");
     updated->setObjectName("lblUpdate");
-    layout.lineBelow().addWidget(updated);
-    layout.buttons({&cmdPrint, &cmdProceed});
+    form.lineBelow().addWidget(updated);
+    form.buttons({&cmdPrint, &cmdProceed});
 }
 
 bool frmStart::holdsFigures() const
@@ -148,12 +148,12 @@ void frmStart::txtT1_Change()
 {
     showDataFile();
     // Whichever box changed: the number of Sr SEs is kept from 1 to 15.
-    const double read = figures::countUpTo(MostSrSes + 1, txtT1(3).text().toStdString());
+    const double read = figures::countUpTo(MaxSrSes + 1, txtT1(3).text().toStdString());
     SrSeCount = figures::toInt16(std::trunc(std::max(read, -1.0)), "the number of Sr SEs");
     if (SrSeCount < 1)
         controls::rewrite(txtT1(3), "");
-    else if (SrSeCount > MostSrSes)
-        controls::rewrite(txtT1(3), QString::number(MostSrSes));
+    else if (SrSeCount > MaxSrSes)
+        controls::rewrite(txtT1(3), QString::number(MaxSrSes));
 }
 
 void frmStart::showDataFile()
@@ -162,7 +162,7 @@ void frmStart::showDataFile()
     const bool chosen = !path.trimmed().isEmpty();  // the box starts with blanks
     txtT1(1).setToolTip(chosen ? controls::plainTip(path) : QString());
     txtT1(1).end(false);  // of a long path the file's name is worth more than its first folders
-    markNext(chosen ? &cmdProceed : &cmdFile);
+    setDefaultButton(chosen ? &cmdProceed : &cmdFile);
 }
 
 void frmStart::cmdProceed_Click()

@@ -1,4 +1,4 @@
-#include "monkey/answers.h"
+#include "monkey/random_dialogs.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -30,7 +30,7 @@ flow::Screen* screenUnder(QWidget& parent)
 
 }  // namespace
 
-Answers::Answers(Chance& chance)
+RandomDialogs::RandomDialogs(Chance& chance)
     : m_chance(chance),
       m_samples(dataFilesOf(CREWMARK_SAMPLES)),
       m_fixtures(dataFilesOf(CREWMARK_TEST_DATA)),
@@ -39,7 +39,7 @@ Answers::Answers(Chance& chance)
     tamperWithFile();
 }
 
-void Answers::tamperWithFile()
+void RandomDialogs::tamperWithFile()
 {
     QFile::remove(m_copy);
     if (m_chance.oneIn(5))
@@ -50,7 +50,7 @@ void Answers::tamperWithFile()
         QFile::resize(m_copy, m_chance.below(1 << 20));
 }
 
-void Answers::whileOpen(QWidget& parent)
+void RandomDialogs::whileOpen(QWidget& parent)
 {
     QDialog box(&parent);
     box.setModal(true);
@@ -60,7 +60,7 @@ void Answers::whileOpen(QWidget& parent)
     QCoreApplication::processEvents();
 }
 
-bool Answers::askYesNo(QWidget& parent, const QString& title, const QString& prompt, bool)
+bool RandomDialogs::askYesNo(QWidget& parent, const QString& title, const QString& prompt, bool)
 {
     const bool yes = m_chance.oneIn(prompt.startsWith("End") ? 12 : 4);
     given.push_back(
@@ -69,21 +69,21 @@ bool Answers::askYesNo(QWidget& parent, const QString& title, const QString& pro
     return yes;
 }
 
-int Answers::showCritical(QWidget& parent, const QString& title, const QString& text)
+int RandomDialogs::showCritical(QWidget& parent, const QString& title, const QString& text)
 {
     given.push_back({.kind = Kind::Critical, .screen = screenUnder(parent), .title = title, .text = text, .path = {}});
     whileOpen(parent);
     return Ok;
 }
 
-int Answers::showMessage(QWidget& parent, const QString& title, const QString& text)
+int RandomDialogs::showMessage(QWidget& parent, const QString& title, const QString& text)
 {
     given.push_back({.kind = Kind::Message, .screen = screenUnder(parent), .title = title, .text = text, .path = {}});
     whileOpen(parent);
     return Ok;
 }
 
-QString Answers::dataFile()
+QString RandomDialogs::dataFile()
 {
     switch (m_chance.below(16)) {
     case 0:
@@ -105,7 +105,7 @@ QString Answers::dataFile()
     }
 }
 
-QString Answers::openFile(QWidget& parent, const QString& title, const QString& filter, const QString&)
+QString RandomDialogs::openFile(QWidget& parent, const QString& title, const QString& filter, const QString&)
 {
     QString path = dataFile();
     given.push_back({.kind = Kind::File, .screen = screenUnder(parent), .title = title, .text = filter, .path = path});
@@ -113,7 +113,7 @@ QString Answers::openFile(QWidget& parent, const QString& title, const QString& 
     return path;
 }
 
-std::optional<flow::PrintChoice> Answers::print(QWidget& parent, QPrinter& printer)
+std::optional<flow::PrintChoice> RandomDialogs::print(QWidget& parent, QPrinter& printer)
 {
     Given box{.kind = Kind::Print, .screen = screenUnder(parent), .title = {}, .text = {}, .path = {}};
     std::optional<flow::PrintChoice> choice;

@@ -7,7 +7,7 @@
 #include <QWindow>
 #include <map>
 
-#include "screens/likes/ten_screens.h"
+#include "screens/usability/ten_screens.h"
 
 namespace {
 

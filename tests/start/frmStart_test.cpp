@@ -1,4 +1,4 @@
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 
 #include <QFileInfo>
 #include <QLabel>

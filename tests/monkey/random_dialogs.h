@@ -9,9 +9,9 @@
 
 namespace monkey {
 
-/// Answers every box by chance, and remembers what was asked. While a box is open, the system may ask the program to
-/// end.
-class Answers : public flow::Dialogs {
+/// RandomDialogs every box by chance, and remembers what was asked. While a box is open, the system may ask the program
+/// to end.
+class RandomDialogs : public flow::Dialogs {
 public:
     enum class Kind { YesNo, Critical, Message, File, Print };
     /// What became of a print-out.
@@ -27,7 +27,7 @@ public:
         QString path;
     };
 
-    explicit Answers(Chance& chance);
+    explicit RandomDialogs(Chance& chance);
 
     /// Those of the step under way.
     std::vector<Given> given;

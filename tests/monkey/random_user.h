@@ -2,8 +2,8 @@
 #include <QString>
 #include <QWidget>
 
-#include "monkey/answers.h"
 #include "monkey/chance.h"
+#include "monkey/random_dialogs.h"
 #include "monkey/screens.h"
 
 class QWindow;
@@ -11,10 +11,10 @@ class QWindow;
 namespace monkey {
 
 /// Works the screens as a user's hands could, by the windows' own key and mouse events.
-class Hands {
+class RandomUser {
 public:
-    Hands(Chance& chance, flow::Chain& chain, Answers& answers);
-    ~Hands();
+    RandomUser(Chance& chance, flow::Chain& chain, RandomDialogs& answers);
+    ~RandomUser();
 
     /// One act, with all that it sets off.
     void act();
@@ -48,7 +48,7 @@ private:
 
     Chance& m_chance;
     flow::Chain& m_chain;
-    Answers& m_answers;
+    RandomDialogs& m_dialogs;
     QWidget* m_form = nullptr;
     QString m_told;
     bool m_mnemonic = false;  ///< the act had a key with Alt

@@ -1,4 +1,4 @@
-#include "monkey/hands.h"
+#include "monkey/random_user.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -30,14 +30,14 @@ QString shortened(const QString& text)
 
 }  // namespace
 
-Hands::Hands(Chance& chance, flow::Chain& chain, Answers& answers)
-    : m_chance(chance), m_chain(chain), m_answers(answers)
+RandomUser::RandomUser(Chance& chance, flow::Chain& chain, RandomDialogs& answers)
+    : m_chance(chance), m_chain(chain), m_dialogs(answers)
 {
 }
 
-Hands::~Hands() = default;
+RandomUser::~RandomUser() = default;
 
-void Hands::act()
+void RandomUser::act()
 {
     m_mnemonic = false;
     chooseAndAct();
@@ -45,7 +45,7 @@ void Hands::act()
         QTest::qWait(120);  // it holds its button down for a moment before it presses it
 }
 
-void Hands::chooseAndAct()
+void RandomUser::chooseAndAct()
 {
     std::vector<QWidget*> visible;
     for (flow::Screen* screen : loadedOf(m_chain))
@@ -79,7 +79,7 @@ void Hands::chooseAndAct()
     case 5:
         return moveAWindow();
     case 6:
-        m_answers.tamperWithFile();
+        m_dialogs.tamperWithFile();
         m_told = "data file changed";
         return;
     case 7:
@@ -109,7 +109,7 @@ void Hands::chooseAndAct()
 }
 
 // As a user who knows the way.
-void Hands::goOn()
+void RandomUser::goOn()
 {
     if (auto* start = dynamic_cast<frmStart*>(m_form)) {
         if (!start->txtT1(3).isLocked() && m_chance.oneIn(2)) {
@@ -133,7 +133,7 @@ void Hands::goOn()
     pressFirst({"cmdNext", "cmdCompute", "cmdCOMPUTE", "cmdTotal", "cmdTransfer", "optBG"});
 }
 
-bool Hands::pressFirst(std::initializer_list<const char*> names)
+bool RandomUser::pressFirst(std::initializer_list<const char*> names)
 {
     for (const char* name : names) {
         auto* button = m_form->findChild<QAbstractButton*>(name);
@@ -146,7 +146,7 @@ bool Hands::pressFirst(std::initializer_list<const char*> names)
     return false;
 }
 
-void Hands::press(QWidget& button)
+void RandomUser::press(QWidget& button)
 {
     m_told = "presses " + nameOf(button);
     const bool mark = button.inherits("QRadioButton") || button.inherits("QCheckBox");
@@ -154,7 +154,7 @@ void Hands::press(QWidget& button)
     QTest::mouseClick(m_form->windowHandle(), Qt::LeftButton, {}, button.mapTo(m_form, place));
 }
 
-void Hands::pressAButton()
+void RandomUser::pressAButton()
 {
     QList<QAbstractButton*> buttons;
     for (auto* button : m_form->findChildren<QAbstractButton*>())
@@ -163,7 +163,7 @@ void Hands::pressAButton()
     press(*m_chance.of(buttons));
 }
 
-void Hands::clickAnywhere()
+void RandomUser::clickAnywhere()
 {
     const QPoint place(m_chance.below(m_form->width()), m_chance.below(m_form->height()));
     const QWidget* under = m_form->childAt(place);
@@ -202,7 +202,7 @@ void Hands::clickAnywhere()
 }
 
 // A box that can be seen, locked ones too.
-QWidget* Hands::aBox()
+QWidget* RandomUser::aBox()
 {
     QList<QWidget*> boxes;
     for (auto* box : m_form->findChildren<QLineEdit*>())
@@ -215,7 +215,7 @@ QWidget* Hands::aBox()
     return box;
 }
 
-void Hands::type()
+void RandomUser::type()
 {
     const QWidget* const box = aBox();
     const QString text = m_chance.oneIn(3) ? nonsense(m_chance).left(12) : figure(m_chance);
@@ -235,7 +235,7 @@ void Hands::type()
     m_told = QString("types \"%1\" into %2").arg(shortened(text), nameOf(*box));
 }
 
-void Hands::paste()
+void RandomUser::paste()
 {
     const QWidget* const box = aBox();
     const QString text = m_chance.oneIn(2) ? nonsense(m_chance) : block(m_chance);
@@ -249,7 +249,7 @@ void Hands::paste()
         key(Qt::Key_V, Qt::ControlModifier);
 }
 
-void Hands::keys()
+void RandomUser::keys()
 {
     struct Stroke {
         int key;
@@ -301,7 +301,7 @@ void Hands::keys()
     }
 }
 
-void Hands::drop()
+void RandomUser::drop()
 {
     QWidget* const box = aBox();
     const QString text = m_chance.oneIn(2) ? nonsense(m_chance) : figure(m_chance);
@@ -317,13 +317,13 @@ void Hands::drop()
     QCoreApplication::sendEvent(box, &dropped);
 }
 
-void Hands::closeAWindow()
+void RandomUser::closeAWindow()
 {
     m_told = "closes " + m_form->objectName();
     m_form->windowHandle()->close();
 }
 
-void Hands::moveAWindow()
+void RandomUser::moveAWindow()
 {
     const QPoint place(m_chance.from(-3'000, 3'000), m_chance.from(-3'000, 3'000));
     const QSize size(m_chance.from(1, 2'000), m_chance.from(1, 1'400));
@@ -348,7 +348,7 @@ void Hands::moveAWindow()
 }
 
 // The desktop's theme changes while the program runs.
-void Hands::restyle()
+void RandomUser::restyle()
 {
     m_told = "another theme";
     QApplication::setPalette(m_chance.oneIn(2) ? QPalette(QColor(40, 40, 40)) : QPalette(QColor(240, 240, 240)));
@@ -359,33 +359,33 @@ void Hands::restyle()
     }
 }
 
-void Hands::askToEnd()
+void RandomUser::askToEnd()
 {
     m_told = "a signal";
     const std::array requests = {SIGTERM, SIGINT, SIGHUP};
     std::raise(m_chance.of(requests));
 }
 
-void Hands::key(int key, Qt::KeyboardModifiers modifiers, const QString& text)
+void RandomUser::key(int key, Qt::KeyboardModifiers modifiers, const QString& text)
 {
     m_mnemonic = m_mnemonic || (modifiers & Qt::AltModifier);
     if (window())
         QTest::sendKeyEvent(QTest::Click, window(), static_cast<Qt::Key>(key), text, modifiers);
 }
 
-void Hands::write(const QString& text)
+void RandomUser::write(const QString& text)
 {
     for (const QChar character : text)
         key(character < QChar(128) ? character.unicode() : static_cast<int>(Qt::Key_unknown), {}, character);
 }
 
-QWindow* Hands::window() const
+QWindow* RandomUser::window() const
 {
     const QWidget* const popup = QApplication::activePopupWidget();
     return popup && popup->windowHandle() ? popup->windowHandle() : m_form->windowHandle();
 }
 
-void Hands::workMenu(int choice) const
+void RandomUser::workMenu(int choice) const
 {
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     if (!menu)

@@ -7,7 +7,7 @@
 #include "activities/misc/frmM2.h"
 #include "activities/site/frmS1.h"
 #include "activities/site/frmS2.h"
-#include "screens/flow/frmStart.h"
+#include "start/frmStart.h"
 #include "summary/frmSummary.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
@@ -69,7 +69,7 @@ protected:
         begin<frmStart>("", "").txtT1(3).setText("15");
         auto& t1 = begin<frmT1>("cmdCopy", "cmdCompute");
         t1.txtNSeg.setText("16");
-        for (int i = 0; i < frmT1::MostSegments; ++i)
+        for (int i = 0; i < frmT1::MaxSegments; ++i)
             t1.txtEqtkm(i).setText("10.5");
         begin<frmT2>("cmdCopy", "cmdCompute");
         begin<frmT4>("", "cmdCompute");

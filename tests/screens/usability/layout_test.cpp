@@ -16,7 +16,7 @@
 #include <QTest>
 
 #include "screens/controls/caption.h"
-#include "screens/likes/ten_screens.h"
+#include "screens/usability/ten_screens.h"
 
 namespace {
 

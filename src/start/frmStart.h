@@ -1,5 +1,5 @@
 #pragma once
-#include "screens/controls/named.h"
+#include "screens/controls/enter_as_tab.h"
 #include "screens/flow/screen.h"
 
 class QLabel;
@@ -8,7 +8,7 @@ class QLabel;
 /// whole run; its boxes are what every later screen reads.
 class frmStart : public flow::Screen {
 public:
-    static constexpr int MostSrSes = 15;
+    static constexpr int MaxSrSes = 15;
 
     explicit frmStart(flow::Chain& chain);
 

@@ -1,4 +1,4 @@
-#include "monkey/watch.h"
+#include "monkey/invariants.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -11,7 +11,7 @@ namespace monkey {
 
 namespace {
 
-constexpr int MostSrSes = 15;
+constexpr int MaxSrSes = 15;
 
 QString textOf(const QWidget& widget)
 {
@@ -85,24 +85,24 @@ bool fits(const char* pattern, const QString& name)
 
 }  // namespace
 
-Watch::Watch(flow::Chain& chain, const Answers& answers) : m_chain(chain), m_answers(answers)
+Invariants::Invariants(flow::Chain& chain, const RandomDialogs& answers) : m_chain(chain), m_dialogs(answers)
 {
 }
 
-void Watch::fail(const QString& what)
+void Invariants::fail(const QString& what)
 {
     m_wrong.push_back(what.toStdString());
 }
 
-bool Watch::answered(Answers::Kind kind, const QString& text, bool yes) const
+bool Invariants::answered(RandomDialogs::Kind kind, const QString& text, bool yes) const
 {
-    return std::any_of(m_answers.given.begin(), m_answers.given.end(), [&](const Answers::Given& box) {
+    return std::any_of(m_dialogs.given.begin(), m_dialogs.given.end(), [&](const RandomDialogs::Given& box) {
         return box.kind == kind && box.text == text && box.yes == yes;
     });
 }
 
 // A screen seen for the first time.
-void Watch::meet(Place place, flow::Screen& screen)
+void Invariants::meet(Place place, flow::Screen& screen)
 {
     const auto take = [&](QWidget* widget) {
         m_boxes.push_back({.widget = widget,
@@ -125,7 +125,7 @@ void Watch::meet(Place place, flow::Screen& screen)
     }
 }
 
-void Watch::before()
+void Invariants::before()
 {
     const Screens now = loadedOf(m_chain);
     std::erase_if(m_boxes, [](const Box& box) { return box.widget.isNull(); });
@@ -150,13 +150,13 @@ void Watch::before()
             m_nothingEntered = false;
 }
 
-std::vector<std::string> Watch::after(const QWidget* workedOn)
+std::vector<std::string> Invariants::after(const QWidget* workedOn)
 {
     m_wrong.clear();
     const Screens now = loadedOf(m_chain);
     // After the end a handler under way may make a screen once more, which goes with it.
     const bool agreed =
-        answered(Answers::Kind::YesNo, "End the program? The figures on the screens will be lost.", true);
+        answered(RandomDialogs::Kind::YesNo, "End the program? The figures on the screens will be lost.", true);
     const auto isToBeSeen = [](const flow::Screen* screen) { return screen && screen->isVisible(); };
     m_ended = agreed || std::none_of(now.begin(), now.end(), isToBeSeen);
     checkLoaded(now);
@@ -173,20 +173,20 @@ std::vector<std::string> Watch::after(const QWidget* workedOn)
 }
 
 // A screen goes only with the end of the program, or with its Sr SE.
-void Watch::checkLoaded(const Screens& now)
+void Invariants::checkLoaded(const Screens& now)
 {
     const bool allowed =
         m_nothingEntered ||
-        answered(Answers::Kind::YesNo, "End the program? The figures on the screens will be lost.", true) ||
+        answered(RandomDialogs::Kind::YesNo, "End the program? The figures on the screens will be lost.", true) ||
         (pressed("frmSummary.cmdExit") &&
          (m_printed[Summary] == 1 ||
-          answered(Answers::Kind::YesNo, "Do you want to take a print of the form ?", false)));
+          answered(RandomDialogs::Kind::YesNo, "Do you want to take a print of the form ?", false)));
     if (m_ended) {
         if (!allowed)
             fail("no screen is to be seen, and nobody agreed to the end");
         return;
     }
-    const bool nextSrSe = answered(Answers::Kind::Message, "Continue for Next Sr SSE on the Division", false);
+    const bool nextSrSe = answered(RandomDialogs::Kind::Message, "Continue for Next Sr SSE on the Division", false);
     for (std::size_t i = 0; i < Places; ++i) {
         if (!m_loaded[i])
             continue;
@@ -198,7 +198,7 @@ void Watch::checkLoaded(const Screens& now)
     }
 }
 
-void Watch::checkWindows(const Screens& now)
+void Invariants::checkWindows(const Screens& now)
 {
     for (std::size_t i = 0; i < Places; ++i) {
         if (!now[i] || !now[i]->isVisible())
@@ -219,7 +219,7 @@ void Watch::checkWindows(const Screens& now)
     }
 }
 
-void Watch::checkBoxes(const QWidget* workedOn)
+void Invariants::checkBoxes(const QWidget* workedOn)
 {
     for (const Box& box : m_boxes) {
         if (box.widget.isNull() || !m_alive[box.place])
@@ -235,7 +235,7 @@ void Watch::checkBoxes(const QWidget* workedOn)
 }
 
 // What cannot be typed into is changed by its own button alone.
-void Watch::checkLocked(const Box& box, const QString& now)
+void Invariants::checkLocked(const Box& box, const QString& now)
 {
     const bool ofHiddenRow = !qobject_cast<const QLineEdit*>(box.widget.data()) ||
                              !qobject_cast<const QLineEdit*>(box.widget.data())->isReadOnly();
@@ -258,7 +258,7 @@ void Watch::checkLocked(const Box& box, const QString& now)
 }
 
 // The division's rows change by Transfer, Compute, Grand Total and by typing into them, each in its own boxes.
-void Watch::checkSummary(const Box& box, const QString& now, const QWidget* workedOn)
+void Invariants::checkSummary(const Box& box, const QString& now, const QWidget* workedOn)
 {
     const auto* summary = dynamic_cast<const frmSummary*>(m_loaded[Summary]);
     const QString row = QString("\\(%1\\)").arg(summary->SrSEIndex - 1);
@@ -274,7 +274,7 @@ void Watch::checkSummary(const Box& box, const QString& now, const QWidget* work
         fail(box.name + " of the summary changed from " + quoted(box.text) + " to " + quoted(now));
 }
 
-std::vector<Watch::Published> Watch::publishedNow()
+std::vector<Invariants::Published> Invariants::publishedNow()
 {
     std::vector<Published> all;
     if (m_chain.isLoaded<frmT1>())
@@ -300,7 +300,7 @@ std::vector<Watch::Published> Watch::publishedNow()
 }
 
 // What later screens read is a number, and it stands until its screen computes again.
-void Watch::checkPublished()
+void Invariants::checkPublished()
 {
     const Screens screens = loadedOf(m_chain);
     for (const Published& now : publishedNow()) {
@@ -319,7 +319,7 @@ void Watch::checkPublished()
 }
 
 // Counts stay within their limits, and so do the rows that they show.
-void Watch::checkCounts(const Screens& now)
+void Invariants::checkCounts(const Screens& now)
 {
     struct Count {
         Place place;
@@ -328,7 +328,7 @@ void Watch::checkCounts(const Screens& now)
         const char* rows;
     };
     static const Count counts[] = {
-        {Start, "txtT1(3)", MostSrSes, nullptr},
+        {Start, "txtT1(3)", MaxSrSes, nullptr},
         {T1, "txtNSeg", 16, "txtKmf"},
         {Y, "txtNYd", 12, "txtStn"},
         {M1, "txtNB", 12, "txtND"},
@@ -358,37 +358,38 @@ void Watch::checkCounts(const Screens& now)
     if (const auto* t1 = dynamic_cast<const frmT1*>(now[T1]); t1 && (t1->SegCount < 0 || t1->SegCount > 16))
         fail(QString("frmT1 counts %1 segments").arg(t1->SegCount));
     if (const auto* summary = dynamic_cast<const frmSummary*>(now[Summary]))
-        if (summary->NumSrSE > MostSrSes)
+        if (summary->NumSrSE > MaxSrSes)
             fail(QString("the summary counts %1 Sr SEs").arg(summary->NumSrSE));
 }
 
 // Printed is set by a print that ran to its end, and never cleared.
-void Watch::checkPrinted(const Screens& now)
+void Invariants::checkPrinted(const Screens& now)
 {
     for (std::size_t i = 0; i < Places; ++i) {
         const auto* form = dynamic_cast<const flow::DataScreen*>(now[i]);
         if (!form)
             continue;
         int expected = m_alive[i] == form ? m_printed[i] : 0;
-        for (const Answers::Given& box : m_answers.given)
-            if (box.kind == Answers::Kind::Print && box.screen == form &&
-                (box.printOut == Answers::PrintOut::None || box.printOut == Answers::PrintOut::Good))
+        for (const RandomDialogs::Given& box : m_dialogs.given)
+            if (box.kind == RandomDialogs::Kind::Print && box.screen == form &&
+                (box.printOut == RandomDialogs::PrintOut::None || box.printOut == RandomDialogs::PrintOut::Good))
                 expected = 1;
         if (form->Printed != expected)
             fail(QString("%1.Printed is %2, not %3").arg(form->objectName()).arg(form->Printed).arg(expected));
     }
-    for (const Answers::Given& box : m_answers.given)
-        if (box.kind == Answers::Kind::Print && box.printOut == Answers::PrintOut::Good && !QFile::exists(box.path))
+    for (const RandomDialogs::Given& box : m_dialogs.given)
+        if (box.kind == RandomDialogs::Kind::Print && box.printOut == RandomDialogs::PrintOut::Good &&
+            !QFile::exists(box.path))
             fail("nothing was printed to " + box.path);
 }
 
 // A box belongs to a screen, and it says something.
-void Watch::checkAsked()
+void Invariants::checkAsked()
 {
-    for (const Answers::Given& box : m_answers.given) {
+    for (const RandomDialogs::Given& box : m_dialogs.given) {
         if (!box.screen && !m_ended)  // a mnemonic that comes late may find the program at its end
             fail("a box of no screen: " + box.title);
-        if (box.kind != Answers::Kind::Print && (box.title.trimmed().isEmpty() || box.text.trimmed().isEmpty()))
+        if (box.kind != RandomDialogs::Kind::Print && (box.title.trimmed().isEmpty() || box.text.trimmed().isEmpty()))
             fail("a box without words: " + box.title + box.text);
     }
 }

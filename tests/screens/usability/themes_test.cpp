@@ -8,7 +8,7 @@
 #include <cmath>
 #include <set>
 
-#include "screens/likes/ten_screens.h"
+#include "screens/usability/ten_screens.h"
 
 namespace {
 

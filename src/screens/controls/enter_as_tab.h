@@ -8,9 +8,9 @@ namespace controls {
 /// An option button or check box of Qt under the object name by which tests and automation tools find it. Space
 /// chooses; Enter goes on like Tab, as in every box.
 template <class Widget>
-class Named : public Widget {
+class EnterAsTab : public Widget {
 public:
-    explicit Named(const QString& name, const QString& caption)
+    explicit EnterAsTab(const QString& name, const QString& caption)
     {
         Widget::setObjectName(name);
         Widget::setText(caption);

@@ -2,7 +2,7 @@
 
 #include <QAccessible>
 
-#include "screens/likes/ten_screens.h"
+#include "screens/usability/ten_screens.h"
 
 namespace {
 

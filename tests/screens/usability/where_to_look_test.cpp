@@ -3,7 +3,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
-#include "screens/likes/ten_screens.h"
+#include "screens/usability/ten_screens.h"
 
 namespace {
 

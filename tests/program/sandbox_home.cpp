@@ -1,16 +1,16 @@
-#include "program/house.h"
+#include "program/sandbox_home.h"
 
 #include <QDir>
 #include <QDirIterator>
 
-House::House()
+SandboxHome::SandboxHome()
 {
     for (const QString& room : {home(), temporary(), work(), tray(), sockets()})
         QDir().mkpath(room);
     QFile::setPermissions(sockets(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-QList<QPair<QByteArray, QByteArray>> House::environment() const
+QList<QPair<QByteArray, QByteArray>> SandboxHome::environment() const
 {
     return {{"HOME", home().toUtf8()},
             {"TMPDIR", temporary().toUtf8()},
@@ -21,7 +21,7 @@ QList<QPair<QByteArray, QByteArray>> House::environment() const
             {"XDG_RUNTIME_DIR", sockets().toUtf8()}};
 }
 
-std::string House::contents() const
+std::string SandboxHome::contents() const
 {
     QStringList found;
     QDirIterator all(m_place.path(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,

@@ -11,7 +11,7 @@
 #include <QTest>
 #include <map>
 
-#include "screens/likes/ten_screens.h"
+#include "screens/usability/ten_screens.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 #include <QTableView>
 #include <map>
 
-#include "screens/likes/ten_screens.h"
+#include "screens/usability/ten_screens.h"
 
 namespace {
 

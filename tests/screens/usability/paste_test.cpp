@@ -5,7 +5,7 @@
 #include <QTest>
 
 #include "screens/controls/data_grid.h"
-#include "screens/likes/ten_screens.h"
+#include "screens/usability/ten_screens.h"
 
 namespace {
 
