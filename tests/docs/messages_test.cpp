@@ -144,9 +144,7 @@ std::vector<std::string> composedTexts()
         saidBy([] { figures::requireFinite(1e308 * 10, "the total km of segment 1"); }),
         saidBy([] { figures::toInt16(40000, "the number of men of beat length 1"); }),
         saidBy([] { site::lookOutMandays(std::vector<site::GangLength>(1)); }),
-        saidBy([&] {
-            site::lookOutMandays({&tiny, 1});
-        }),
+        saidBy([&] { site::lookOutMandays(std::span(&tiny, 1)); }),
         saidBy([] { track::addWeldedRail(huge, huge, 0); }),
         saidBy([] { track::ngMandays({.eqLengthKm = 1.0, .gmt = 1.0, .factor = huge, .concreteKm = 0.0}, 0); }),
         remarkOn("13"),

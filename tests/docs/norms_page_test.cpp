@@ -25,19 +25,11 @@ struct Rate {
     double value;
 };
 
-// Name and value are one: what the program has under this name.
-#define RATE(constant)                                                                                                 \
-    Rate                                                                                                               \
-    {                                                                                                                  \
-#constant, double(constant)                                                                                    \
-    }
-#define OPTIONAL_RATE(constant)                                                                                        \
-    Rate                                                                                                               \
-    {                                                                                                                  \
-#constant, double((constant).value())                                                                          \
-    }
-
 // clang-format off
+// Name and value are one: what the program has under this name.
+#define RATE(constant) Rate{#constant, double(constant)}
+#define OPTIONAL_RATE(constant) Rate{#constant, double((constant).value())}
+
 const std::vector<Rate> Rates = {
     RATE(track::KmPerTurnout),
     RATE(track::AugmentationNorms.shrinkablePerKm),

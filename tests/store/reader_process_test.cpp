@@ -174,8 +174,8 @@ TEST(ReaderProcess, PathAndTableArriveUnchanged)
 
 TEST(ReaderProcess, ASignalInBetweenDoesNotDisturb)
 {
-    struct sigaction doNothing {};
-    struct sigaction before {};
+    struct sigaction doNothing = {};
+    struct sigaction before = {};
     doNothing.sa_handler = [](int) {};  // and no SA_RESTART: calls are interrupted
     sigaction(SIGUSR1, &doNothing, &before);
     const pthread_t reading = pthread_self();

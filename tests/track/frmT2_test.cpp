@@ -138,13 +138,12 @@ TEST_F(GroundScreen, BoxesAreNamedToPeopleWhoListen)
 
 TEST_F(GroundScreen, ShowsTheTableOfTheDataFile)
 {
-    auto& form = openSample("2-eklahra.mdb", 3);
-    const auto* grid = form.findChild<controls::DataGrid*>("SoilGrid");
+    openSample("2-eklahra.mdb", 3);
+    const auto& grid = dynamic_cast<controls::DataGrid&>(find("SoilGrid"));
 
-    ASSERT_NE(grid, nullptr);
-    EXPECT_FALSE(grid->isHidden());
-    EXPECT_EQ(grid->TextMatrix(0, 2), "RAINFALL");
-    EXPECT_EQ(grid->TextMatrix(1, 2), "182.5");
+    EXPECT_FALSE(grid.isHidden());
+    EXPECT_EQ(grid.TextMatrix(0, 2), "RAINFALL");
+    EXPECT_EQ(grid.TextMatrix(1, 2), "182.5");
 }
 
 // 2-eklahra, CS: SEGNO  RAINFALL  SHRINKKM  SHRINKTOUT  UNSTABKM  UNSTABTOUT  CURVE1_2  CURVEGT2  EQDEG

@@ -68,7 +68,7 @@ void EndRequests::catchSignals()
         sigaction(number, nullptr, &caught.before);
         if (caught.before.sa_handler == SIG_IGN)
             continue;
-        struct sigaction action {};
+        struct sigaction action = {};
         action.sa_handler = ring;
         action.sa_flags = SA_RESTART;
         sigemptyset(&action.sa_mask);

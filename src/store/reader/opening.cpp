@@ -102,7 +102,7 @@ unsigned long findInCatalog(TableWalk& catalog, std::string_view name)
 
 Source openSource(const char* path)
 {
-    struct stat about {};
+    struct stat about = {};
     if (stat(path, &about) != 0)
         throw Refused{refusalFor(errno)};
     requireOrdinaryFile(about);  // before it is opened: opening a device or a pipe may wait, or do something

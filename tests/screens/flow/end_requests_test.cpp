@@ -246,7 +246,8 @@ TEST_F(RunningProgram, EndsFromTheMessageThatLeadsToTheNextSrSeToo)
     const std::vector<std::string_view> record(21, "10");
     establishment.append(record);
     establishment.append(record);
-    chain.get<frmS2>().findChild<controls::DataGrid*>("GridS2")->setTable(std::move(establishment));
+    dynamic_cast<controls::DataGrid&>(*chain.get<frmS2>().findChild<QWidget*>("GridS2"))
+        .setTable(std::move(establishment));
     auto& summary = chain.show<frmSummary>();
     summary.cmdTransfer.click();
     ASSERT_TRUE(summary.cmdCompute.isEnabled());

@@ -107,7 +107,7 @@ TEST_F(PicturesOfScreens, ArePaintedAnewWhenAScreenBehindChanges)
     openTwo();
     const PaintCount paints;
     chain.get<frmStart>().txtT1(0).setText("somebody else");
-    QTRY_VERIFY_WITH_TIMEOUT(paints.total() > 0, 1000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return paints.total() > 0; }, 1000));
     EXPECT_GE(paints.total(), behind().findChildren<QLineEdit*>().size()) << "all of it, not the box alone";
 }
 

@@ -53,7 +53,8 @@ protected:
         EXPECT_EQ(QApplication::activeWindow(), &form);
         if (imports)
             press(Qt::Key_D, Qt::AltModifier);
-        QTRY_COMPARE(focused(), compute);  // a mnemonic presses the button for a moment
+        // A mnemonic presses the button for a moment.
+        ASSERT_TRUE(QTest::qWaitFor([&] { return focused() == compute; })) << "the focus is on " << focused();
         press(Qt::Key_Return);
         EXPECT_EQ(focused(), "cmdPrint");
         dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 1}, folder.filePath("print.pdf").toStdString());
