@@ -60,7 +60,7 @@ Figures figuresOf(const std::string& name)
     return figures;
 }
 
-class WholeWay : public ScreenTest {
+class WholeWay : public ScreenTest {  // slow
 protected:
     /// How each data screen is left: printed, or with No to the question.
     enum class Leaving { Printed, Unprinted };
@@ -193,7 +193,7 @@ private:
 
 class OneSrSe : public WholeWay, public testing::WithParamInterface<std::size_t> {};
 
-TEST_P(OneSrSe, EveryTextIsAsWorkedOut)
+TEST_P(OneSrSe, EveryTextIsAsWorkedOut)  // slow
 {
     const SrSe& srSe = Division.at(GetParam());
     const int index = static_cast<int>(GetParam()) + 1;

@@ -142,7 +142,7 @@ TEST(Picture, RoundsAsOnPaper)
     }
 }
 
-TEST(Picture, ReadsBackWithinHalfAUnit)
+TEST(Picture, ReadsBackWithinHalfAUnit)  // slow
 {
     std::mt19937_64 random(19511016);
     std::uniform_real_distribution<double> sixFigures(-999'999.0, 999'999.0);

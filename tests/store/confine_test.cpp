@@ -136,7 +136,7 @@ TEST(Confine, NothingIsWrittenToAFile)
     EXPECT_EQ(bytesOf(path), "");
 }
 
-TEST(Confine, ProcessorTimeEnds)
+TEST(Confine, ProcessorTimeEnds)  // slow
 {
     const int status = statusAfter([]() -> int {
         for (volatile bool stopped = false; !stopped;) {

@@ -126,7 +126,7 @@ TEST(ReaderOutput, OtherGreetingsAreNoAnswer)
         EXPECT_EQ(parseReaderOutput(bytes, AskedFor).reason, NoProperAnswer) << bytes;
 }
 
-TEST(ReaderOutput, MayNotHaveMoreRecordsThanTheLimit)
+TEST(ReaderOutput, MayNotHaveMoreRecordsThanTheLimit)  // slow
 {
     WireOutput output;
     output.headings({"A"});

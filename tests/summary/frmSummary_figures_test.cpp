@@ -227,7 +227,7 @@ TEST_F(SummaryScreen, AnSrSeBeyondTheNumberIsComputedAndNothingElse)
 // Grand total
 
 /// A division of three whose last Sr SE has been computed, and whose table then was typed over.
-class GrandTotal : public SummaryScreen {
+class GrandTotal : public SummaryScreen {  // slow
 protected:
     GrandTotal()
     {

@@ -17,7 +17,7 @@
 #include "yards/frmY.h"
 
 /// frmSummary, behind screens that hold what a test wants them to.
-class SummaryScreen : public ScreenTest {
+class SummaryScreen : public ScreenTest {  // slow
 protected:
     static constexpr const char* Title = "Manpower Requirement Summary for the Division";
     static constexpr const char* Columns[] = {"txtSN",  "txtSSE", "txtTkm", "txtTR", "txtM",   "txtS", "txtTMan",

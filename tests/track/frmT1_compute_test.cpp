@@ -38,7 +38,7 @@ struct Row {
 
 class SegmentLengths : public TrackCompute, public testing::WithParamInterface<Row> {};
 
-TEST_P(SegmentLengths, AreShownThroughTheirPictures)
+TEST_P(SegmentLengths, AreShownThroughTheirPictures)  // slow
 {
     openRows(1);
     limits(0, GetParam().from, GetParam().to);
@@ -312,7 +312,7 @@ TEST_F(TrackCompute, AFigureTooLargeForAnyNumberEndsTheCompute)
 
 class SampleTrack : public TrackCompute, public testing::WithParamInterface<const char*> {};
 
-TEST_P(SampleTrack, ShowsEveryFigureOfTheSample)
+TEST_P(SampleTrack, ShowsEveryFigureOfTheSample)  // slow
 {
     std::vector<std::array<std::string, 3>> expected;  // screen, box, text
     std::ifstream file(std::string(CREWMARK_TEST_DATA) + "/../expected/" + GetParam() + ".tsv");

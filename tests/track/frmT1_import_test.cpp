@@ -206,7 +206,7 @@ TEST_F(TrackImport, OfANarrowTableKeepsWhatWasCopiedAndNamesTheMissingColumn)
 
 // A table of so many columns ends the import where the next cell is missing: what stands left of it has been copied,
 // what stands right of it has not.
-TEST_F(TrackImport, TakesTheCellsOfARowInTheirOrder)
+TEST_F(TrackImport, TakesTheCellsOfARowInTheirOrder)  // slow
 {
     // clang-format off
     const std::vector<std::string> untouched = {"",  "",  "1", "Line", "",   "",   "",    "",     "",  "",   "",     "",  "Method of Maintenance"};
@@ -237,7 +237,7 @@ struct Refused {
 
 class RefusedFile : public TrackImport, public testing::WithParamInterface<Refused> {};
 
-TEST_P(RefusedFile, IsToldOnceAndTheReasonStaysInTheGridsPlace)
+TEST_P(RefusedFile, IsToldOnceAndTheReasonStaysInTheGridsPlace)  // slow
 {
     chain.get<frmStart>().txtT1(1).setText(QString::fromStdString(fixture(GetParam().file)));
     auto& t1 = chain.get<frmT1>();  // made, but not yet to be seen: no box

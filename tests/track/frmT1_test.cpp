@@ -275,7 +275,7 @@ struct Count {
 
 class SegmentCount : public TrackScreen, public testing::WithParamInterface<Count> {};
 
-TEST_P(SegmentCount, ShowsItsRows)
+TEST_P(SegmentCount, ShowsItsRows)  // slow
 {
     frmT1& t1 = open();
     t1.txtNSeg.setText(GetParam().text);

@@ -13,7 +13,7 @@ struct Ground {
 
 class GroundRow : public GroundScreen, public testing::WithParamInterface<Ground> {};
 
-TEST_P(GroundRow, Shows)
+TEST_P(GroundRow, Shows)  // slow
 {
     open({GetParam().eqLength});
     typeRow(0, GetParam().typed);

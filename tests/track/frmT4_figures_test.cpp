@@ -14,7 +14,7 @@ struct Mandays {
 
 class MandaysRow : public MandaysScreen, public testing::WithParamInterface<Mandays> {};
 
-TEST_P(MandaysRow, Shows)
+TEST_P(MandaysRow, Shows)  // slow
 {
     open(GetParam().gauge, {GetParam().segment}, GetParam().suburban);
     click("cmdCompute");

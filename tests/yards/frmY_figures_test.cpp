@@ -14,7 +14,7 @@ struct Yard {
 
 class YardMandays : public YardScreen, public testing::WithParamInterface<Yard> {};
 
-TEST_P(YardMandays, AreShownUnderTheColumnTotals)
+TEST_P(YardMandays, AreShownUnderTheColumnTotals)  // slow
 {
     open(GetParam().gauge);
     type("txtNYd", "1");
@@ -167,7 +167,7 @@ struct SampleYards {
 
 class YardsOfSample : public YardScreen, public testing::WithParamInterface<SampleYards> {};
 
-TEST_P(YardsOfSample, AreImportedAndComputed)
+TEST_P(YardsOfSample, AreImportedAndComputed)  // slow
 {
     openSample(GetParam().file, GetParam().gauge);
     click("cmdYdata");

@@ -143,7 +143,7 @@ struct Count {
 
 class YardCount : public YardScreen, public testing::WithParamInterface<Count> {};
 
-TEST_P(YardCount, ShowsAsManyRowsAndTheTotals)
+TEST_P(YardCount, ShowsAsManyRowsAndTheTotals)  // slow
 {
     const auto& form = open();
     type("txtNYd", "5");

@@ -12,7 +12,7 @@ struct Patrolled {
 
 class MonsoonOnScreen : public PatrollingScreen, public testing::WithParamInterface<Patrolled> {};
 
-TEST_P(MonsoonOnScreen, MultipliesWhatIsTyped)
+TEST_P(MonsoonOnScreen, MultipliesWhatIsTyped)  // slow
 {
     open();
     type("txtNB", "1");
@@ -221,7 +221,7 @@ struct SampleActivities {
 
 class PatrollingOfSample : public PatrollingScreen, public testing::WithParamInterface<SampleActivities> {};
 
-TEST_P(PatrollingOfSample, IsImportedAndComputed)
+TEST_P(PatrollingOfSample, IsImportedAndComputed)  // slow
 {
     const auto& form = openSample(GetParam().file, GetParam().lwrKm);
     click("cmdData");

@@ -120,7 +120,7 @@ struct Length {
 
 class WeldedRail : public PatrollingScreen, public testing::WithParamInterface<Length> {};
 
-TEST_P(WeldedRail, IsShownAsASingleReads)
+TEST_P(WeldedRail, IsShownAsASingleReads)  // slow
 {
     open(GetParam().lwrKm);
     EXPECT_EQ(text("txtHLWR"), GetParam().shown);
@@ -148,7 +148,7 @@ struct Count {
 
 class PatrollingCount : public PatrollingScreen, public testing::WithParamInterface<Count> {};
 
-TEST_P(PatrollingCount, ShowsAsManyBeatLengths)
+TEST_P(PatrollingCount, ShowsAsManyBeatLengths)  // slow
 {
     open();
     type("txtNB", "5");
@@ -158,7 +158,7 @@ TEST_P(PatrollingCount, ShowsAsManyBeatLengths)
     EXPECT_EQ(locationsShown(), "000000000000");
 }
 
-TEST_P(PatrollingCount, ShowsAsManyLocations)
+TEST_P(PatrollingCount, ShowsAsManyLocations)  // slow
 {
     open();
     type("txtVL", "5");

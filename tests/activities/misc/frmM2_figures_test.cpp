@@ -14,7 +14,7 @@ struct Entry {
 
 class GatesOnScreen : public GateScreen, public testing::WithParamInterface<Entry> {};
 
-TEST_P(GatesOnScreen, GiveMandays)
+TEST_P(GatesOnScreen, GiveMandays)  // slow
 {
     const auto& form = open(GetParam().first);
     type("txtNLC", "0");
@@ -78,7 +78,7 @@ struct Stores {
 
 class StoreLocations : public GateScreen, public testing::WithParamInterface<Stores> {};
 
-TEST_P(StoreLocations, AreCutToTwoByCompute)
+TEST_P(StoreLocations, AreCutToTwoByCompute)  // slow
 {
     open();
     type("txtSL", GetParam().typed);
@@ -161,7 +161,7 @@ struct SampleActivities {
 
 class GatesOfSample : public GateScreen, public testing::WithParamInterface<SampleActivities> {};
 
-TEST_P(GatesOfSample, AreImportedAndComputed)
+TEST_P(GatesOfSample, AreImportedAndComputed)  // slow
 {
     chain.get<frmStart>().txtT1(1).setText(QString::fromStdString(sample(GetParam().file)));
     open(GetParam().first);

@@ -222,7 +222,7 @@ const LengthCase LengthCases[] = {
 };
 // clang-format on
 
-TEST_F(FirstSiteScreen, EveryLengthCountsByItsTracksAndRate)
+TEST_F(FirstSiteScreen, EveryLengthCountsByItsTracksAndRate)  // slow
 {
     for (const LengthCase& one : LengthCases) {
         open<frmS1>();

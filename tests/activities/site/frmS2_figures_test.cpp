@@ -35,7 +35,7 @@ const MandaysCase MandaysCases[] = {
 };
 // clang-format on
 
-TEST_F(SecondSiteScreen, EveryActivityCountsByItsNorm)
+TEST_F(SecondSiteScreen, EveryActivityCountsByItsNorm)  // slow
 {
     for (const MandaysCase& one : MandaysCases) {
         openSuburban();

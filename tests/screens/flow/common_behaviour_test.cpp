@@ -13,7 +13,7 @@
 namespace {
 
 /// frmT1, computed, stands for every data screen.
-class DataScreenTest : public ScreenTest {
+class DataScreenTest : public ScreenTest {  // slow
 protected:
     DataScreenTest()
     {
@@ -190,7 +190,7 @@ TEST_F(DataScreenTest, TheStartScreenPrintsToo)
 
 // The clock
 
-class Clock : public ScreenTest {
+class Clock : public ScreenTest {  // slow
 protected:
     static std::string today()
     {

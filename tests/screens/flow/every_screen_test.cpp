@@ -19,7 +19,7 @@ const std::string LockTip =
     "Please make sure that all data is corrctly entered. The data would get lockked after clicking this button.";
 
 /// What all ten screens have in common, on each of them.
-class EveryScreen : public ScreenTest {
+class EveryScreen : public ScreenTest {  // slow
 protected:
     template <class Form>
     void expectCommon(const std::string& name, const std::string& caption)

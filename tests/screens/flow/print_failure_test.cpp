@@ -36,7 +36,7 @@ private:
     void (*m_signal)(int);
 };
 
-class PrintFailure : public ScreenTest {
+class PrintFailure : public ScreenTest {  // slow
 protected:
     PrintFailure()
     {

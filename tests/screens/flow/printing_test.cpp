@@ -54,7 +54,7 @@ QSizeF paperOf(const QString& path)
 }
 
 /// frmT1 with all its rows, printed by its Print button.
-class PrintedForm : public ScreenTest {
+class PrintedForm : public ScreenTest {  // slow
 protected:
     PrintedForm()
     {

@@ -65,7 +65,7 @@ std::string spoken(QWidget& widget)
     return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name).toStdString();
 }
 
-class Accessibility : public TenScreens {
+class Accessibility : public TenScreens {  // slow
 protected:
     std::vector<QWidget*> told(QWidget& form)
     {

@@ -57,7 +57,7 @@ TEST_F(TenScreens, PaintNothingWhileNothingChanges)
 }
 
 // A picture is 1340 x 690 points of 4 bytes.
-class PicturesOfScreens : public TenScreens {
+class PicturesOfScreens : public TenScreens {  // slow
 protected:
     static constexpr QSize None{0, 0};
 

@@ -15,7 +15,7 @@
 
 namespace {
 
-class Keyboard : public TenScreens {
+class Keyboard : public TenScreens {  // slow
 protected:
     static std::string focused()
     {
@@ -280,7 +280,7 @@ TEST_F(Keyboard, AltPGoesFromPrintToProceedAndSpaceOrEnterPresses)
 
 // The next button to press
 
-class NextButton : public TenScreens {
+class NextButton : public TenScreens {  // slow
 protected:
     static std::string marked(const QWidget& form)
     {

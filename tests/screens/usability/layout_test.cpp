@@ -161,7 +161,7 @@ void expectHeaderAndButtonsStay(const QWidget& form, QSize window)
         EXPECT_TRUE(inside(rows, *part) || form.rect().contains(placeIn(form, *part))) << nameOf(*part);
 }
 
-class Layout : public TenScreens {
+class Layout : public TenScreens {  // slow
 protected:
     /// A desktop's room for a window, in logical pixels, less the frame.
     static QSize windowOn(QSize desktop, double scale)
@@ -247,7 +247,7 @@ class ScaledLayout : public Layout, public testing::WithParamInterface<double> {
 
 class LargeDesktop : public ScaledLayout {};
 
-TEST_P(LargeDesktop, HeaderAndButtonsStayWhole)
+TEST_P(LargeDesktop, HeaderAndButtonsStayWhole)  // slow
 {
     workSample();
     expectWell(windowOn({1920, 1080}, GetParam()), GetParam() < 1.5);
@@ -255,7 +255,7 @@ TEST_P(LargeDesktop, HeaderAndButtonsStayWhole)
 
 class SmallDesktop : public ScaledLayout {};
 
-TEST_P(SmallDesktop, HeaderAndButtonsStayWhole)
+TEST_P(SmallDesktop, HeaderAndButtonsStayWhole)  // slow
 {
     workSample();
     expectWell(windowOn({1366, 768}, GetParam()), false);

@@ -48,7 +48,7 @@ TEST_F(Remarks, TheMarkIsSeenWithoutColourToo)
     EXPECT_GT(std::abs(qGray(plain.pixel(3, 3)) - qGray(marked.pixel(3, 3))), 60) << "the corner of the box";
 }
 
-TEST_F(Remarks, EveryScreensFiguresAreLookedAt)
+TEST_F(Remarks, EveryScreensFiguresAreLookedAt)  // slow
 {
     chain.get<frmT1>().txtNSeg.setText("1");
     // clang-format off

@@ -15,7 +15,7 @@
 
 namespace {
 
-class Sheets : public TenScreens {
+class Sheets : public TenScreens {  // slow
 protected:
     Sheets() { workSample(); }
     ~Sheets() override { QApplication::setPalette(m_theme); }

@@ -16,7 +16,7 @@
 #include "yards/frmY.h"
 
 /// All ten screens side by side, as they stand when the first sample has been worked: 5 segments, 4 yards, 3 beats.
-class TenScreens : public ScreenTest {
+class TenScreens : public ScreenTest {  // slow
 protected:
     /// The size at which a screen opens on a desktop of 1366x768.
     static constexpr QSize Usual{1340, 690};

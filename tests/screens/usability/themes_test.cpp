@@ -28,7 +28,7 @@ double contrast(const QColor& a, const QColor& b)
     return std::max(one, other) / std::min(one, other);
 }
 
-class Themes : public TenScreens {
+class Themes : public TenScreens {  // slow
 protected:
     ~Themes() override { QApplication::setPalette(m_theme); }
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-class WhereToLook : public TenScreens {
+class WhereToLook : public TenScreens {  // slow
 protected:
     /// Low enough to scroll, and scrolled to the top.
     template <class Form>
