@@ -14,16 +14,14 @@
 
 void compose(flow::Chain& chain)
 {
-    chain.add<frmStart>([](flow::Chain& c) { return std::make_unique<frmStart>(c); });
-    chain.add<frmT1>([](flow::Chain& c) { return std::make_unique<frmT1>(c, c.get<frmStart>()); });
-    chain.add<frmT2>([](flow::Chain& c) { return std::make_unique<frmT2>(c, c.get<frmStart>(), c.get<frmT1>()); });
-    chain.add<frmT4>([](flow::Chain& c) { return std::make_unique<frmT4>(c, c.get<frmT1>(), c.get<frmT2>()); });
-    chain.add<frmY>([](flow::Chain& c) { return std::make_unique<frmY>(c, c.get<frmStart>(), c.get<frmT1>()); });
-    chain.add<frmM1>([](flow::Chain& c) { return std::make_unique<frmM1>(c, c.get<frmStart>(), c.get<frmT1>()); });
-    chain.add<frmM2>(
-        [](flow::Chain& c) { return std::make_unique<frmM2>(c, c.get<frmStart>(), c.get<frmT1>(), c.get<frmM1>()); });
-    chain.add<frmS1>([](flow::Chain& c) { return std::make_unique<frmS1>(c, c.get<frmStart>(), c.get<frmT1>()); });
-    chain.add<frmS2>(
-        [](flow::Chain& c) { return std::make_unique<frmS2>(c, c.get<frmStart>(), c.get<frmT1>(), c.get<frmS1>()); });
-    chain.add<frmSummary>([](flow::Chain& c) { return std::make_unique<frmSummary>(c); });
+    chain.add<frmStart>();
+    chain.add<frmT1, frmStart>();
+    chain.add<frmT2, frmStart, frmT1>();
+    chain.add<frmT4, frmT1, frmT2>();
+    chain.add<frmY, frmStart, frmT1>();
+    chain.add<frmM1, frmStart, frmT1>();
+    chain.add<frmM2, frmStart, frmT1, frmM1>();
+    chain.add<frmS1, frmStart, frmT1>();
+    chain.add<frmS2, frmStart, frmT1, frmS1>();
+    chain.add<frmSummary>();
 }

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QIcon>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <optional>
 
@@ -11,7 +12,7 @@
 
 namespace {
 
-// Where the session has no folder for sockets, the toolkit makes one in /tmp and leaves it there. This one goes again.
+// Where the session has no folder for sockets, Qt makes one in /tmp and leaves it there. This one is deleted.
 class RuntimeFolder {
 public:
     RuntimeFolder()
@@ -32,10 +33,12 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName("crewmark");
     QApplication::setDesktopFileName("crewmark");  // whose windows these are, for the desktop
-    Q_INIT_RESOURCE(drawings);
     QApplication::setWindowIcon(QIcon(":/crewmark.svg"));
     QApplication::setCursorFlashTime(0);             // a blinking cursor would repaint twice a second
     QApplication::setQuitOnLastWindowClosed(false);  // the chain knows when the last screen may go
+
+    // Qt keeps no settings, or its file dialog would write a history into the home folder: /dev/null can hold no file.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 
     flow::DesktopDialogs dialogs;
     flow::Chain chain(dialogs);

@@ -42,9 +42,9 @@ frmStart::frmStart(flow::Chain& owner)
 
     for (int i = 0; i < txtT1.size(); ++i)
         onChange(txtT1(i), &frmStart::txtT1_Change);
-    showDataFile();
-    onClick(cmdFile, &frmStart::cmdFile_Click);
-    onClick(cmdProceed, &frmStart::cmdProceed_Click);
+    txtT1_Change();
+    onPress(cmdFile, &frmStart::cmdFile_Click);
+    onPress(cmdProceed, &frmStart::cmdProceed_Click);
 }
 
 QWidget* frmStart::titles()
@@ -76,7 +76,6 @@ void frmStart::layOut()
     auto* content = new QWidget;
     auto* across = new QHBoxLayout(content);
     across->setSpacing(24);
-    Q_INIT_RESOURCE(drawings);
     auto* image = new controls::Drawing("Image1", ":/image1.svg");
     image->setAccessibleName("A gang at work on the track");
     across->addWidget(image, 1);
@@ -146,6 +145,11 @@ void frmStart::cmdFile_Click()
 
 void frmStart::txtT1_Change()
 {
+    chain.setSrSe({.railway = txtT1(5).text(),
+                   .division = txtT1(2).text(),
+                   .index = txtT1(4).text(),
+                   .name = txtT1(0).text(),
+                   .dataFile = txtT1(1).text()});
     showDataFile();
     // Whichever box changed: the number of Sr SEs is kept from 1 to 15.
     const double read = figures::countUpTo(MaxSrSes + 1, txtT1(3).text().toStdString());

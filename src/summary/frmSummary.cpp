@@ -42,10 +42,10 @@ frmSummary::frmSummary(flow::Chain& owner)
     cmdExit.setVisible(false);
 
     onChange(txtSSN, &frmSummary::txtSSN_Change);
-    onClick(cmdTransfer, &frmSummary::cmdTransfer_Click);
-    onClick(cmdCompute, &frmSummary::cmdCompute_Click);
-    onClick(cmdTotal, &frmSummary::cmdTotal_Click);
-    onClick(cmdExit, &frmSummary::cmdExit_Click);
+    onPress(cmdTransfer, &frmSummary::cmdTransfer_Click);
+    onPress(cmdCompute, &frmSummary::cmdCompute_Click);
+    onPress(cmdTotal, &frmSummary::cmdTotal_Click);
+    onPress(cmdExit, &frmSummary::cmdExit_Click);
 
     const auto& start = chain.get<frmStart>();
     txtRly(0).setText(start.txtT1(5).text());
@@ -173,8 +173,7 @@ int frmSummary::row() const
 
 void frmSummary::cmdTransfer_Click()
 {
-    // Pressed before the next Sr SE's screens have been worked, it finds none of them.
-    chain.lookBack([this] { takeOver(); });
+    takeOver();
     cmdCompute.setEnabled(true);
     focusDefault(cmdCompute);
 }
@@ -184,23 +183,31 @@ void frmSummary::takeOver()
     SrSEIndex = valueOf(chain.get<frmStart>().txtT1(4));
     const int r = row();
 
-    const auto& t1 = chain.get<frmT1>();
-    txtSSE(r).setText(t1.txtT1(1).text());
-    txtSN(r).setText(t1.txtT1(4).text());
-    txtTkm(r).setText(t1.txtTkm(r).text());  // the segment of the row's own number, not the Sr SE's total
-    txtTR(r).setText(chain.get<frmT4>().txtMan3(frmT4::Total).text());
-    txtM(r).setText(chain.get<frmM2>().txtMan9.text());
-    const auto& s2 = chain.get<frmS2>();
-    txtS(r).setText(s2.txtMan20.text());
+    // Pressed before the next Sr SE's screens have been worked, it finds none of them: blanks.
+    const auto* t1 = chain.find<frmT1>();
+    const auto* t4 = chain.find<frmT4>();
+    const auto* m2 = chain.find<frmM2>();
+    const auto* s2 = chain.find<frmS2>();
+    txtSSE(r).setText(t1 ? t1->txtT1(1).text() : "");
+    txtSN(r).setText(t1 ? t1->txtT1(4).text() : "");
+    txtTkm(r).setText(t1 ? t1->txtTkm(r).text() : "");  // the segment of the row's own number, not the Sr SE's total
+    txtTR(r).setText(t4 ? t4->txtMan3(frmT4::Total).text() : "");
+    txtM(r).setText(m2 ? m2->txtMan9.text() : "");
+    txtS(r).setText(s2 ? s2->txtMan20.text() : "");
 
     // If the file has no establishment figures, the row waits for them to be typed.
     m_rowToFill = r;
     if (!txtKey(r).isHidden())
         revealBox(txtKey(r));
-    txtKey(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 18));
-    txtLR(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 19));
-    txtSS(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 20));
-    txtSDC(r).setText(s2.GridS2.TextMatrix(EstablishmentRow, 21));
+    const store::Table noTable("S2", {});  // says what is missing
+    const auto establishment = [&](int column) {
+        return s2 ? s2->GridS2.TextMatrix(EstablishmentRow, column)
+                  : QString::fromStdString(std::string(noTable.text(EstablishmentRow, column)));
+    };
+    txtKey(r).setText(establishment(18));
+    txtLR(r).setText(establishment(19));
+    txtSS(r).setText(establishment(20));
+    txtSDC(r).setText(establishment(21));
     m_rowToFill = -1;
 }
 
@@ -254,14 +261,7 @@ void frmSummary::nextSrSe()
         "the button");
     if (MsgAnswer != flow::Dialogs::Ok || !chain.isLoaded<frmSummary>())  // the program may have ended meanwhile
         return;
-    chain.unload<frmT1>();
-    chain.unload<frmT2>();
-    chain.unload<frmT4>();
-    chain.unload<frmY>();
-    chain.unload<frmM1>();
-    chain.unload<frmM2>();
-    chain.unload<frmS1>();
-    chain.unload<frmS2>();
+    chain.unloadBetween<frmStart, frmSummary>();
 
     auto& start = chain.get<frmStart>();
     start.txtT1(1).setText("");

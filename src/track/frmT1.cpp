@@ -36,12 +36,12 @@ frmT1::frmT1(flow::Chain& owner, const frmStart& start)
     takeSrSe();
 
     onChange(txtNSeg, &frmT1::txtNSeg_Change);
-    onClick(optBG, &frmT1::optBG_Click);
-    onClick(optMG, &frmT1::optMG_Click);
-    onClick(optNG, &frmT1::optNG_Click);
-    onClick(chkSub, &frmT1::chkSub_Click);
-    onClick(cmdCopy, &frmT1::cmdCopy_Click);
-    onClick(cmdCompute, &frmT1::cmdCompute_Click);
+    onChoice(optBG, &frmT1::optBG_Click);
+    onChoice(optMG, &frmT1::optMG_Click);
+    onChoice(optNG, &frmT1::optNG_Click);
+    onChoice(chkSub, &frmT1::chkSub_Click);
+    onPress(cmdCopy, &frmT1::cmdCopy_Click);
+    onPress(cmdCompute, &frmT1::cmdCompute_Click);
 }
 
 void frmT1::takeSrSe()

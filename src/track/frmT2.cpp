@@ -32,8 +32,8 @@ frmT2::frmT2(flow::Chain& owner, const frmStart& start, const frmT1& t1)
 
     for (const auto* entered : {&txtSoil1, &txtTout1, &txtSoil2, &txtTout2, &txtCur1, &txtcur2, &txtCur3, &txtRain})
         enableByTyping(cmdCompute, *entered);
-    onClick(cmdCopy, &frmT2::cmdCopy_Click);
-    onClick(cmdCompute, &frmT2::cmdCompute_Click);
+    onPress(cmdCopy, &frmT2::cmdCopy_Click);
+    onPress(cmdCompute, &frmT2::cmdCompute_Click);
 }
 
 void frmT2::layOut()

@@ -24,7 +24,7 @@ frmT4::frmT4(flow::Chain& owner, const frmT1& t1, const frmT2& t2)
     txtNSeg.setText(t1.txtNSeg.text());
     chkSub.setCheckState(t1.chkSub.checkState());
 
-    onClick(cmdCompute, &frmT4::cmdCompute_Click);
+    onPress(cmdCompute, &frmT4::cmdCompute_Click);
 }
 
 void frmT4::copyRow(int i)

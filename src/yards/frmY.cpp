@@ -25,8 +25,8 @@ frmY::frmY(flow::Chain& owner, const frmStart& start, const frmT1& t1)
         txtT1(i).setText(t1.txtT1(i).text());
 
     onChange(txtNYd, &frmY::txtNYd_Change);
-    onClick(cmdYdata, &frmY::cmdYdata_Click);
-    onClick(cmdCOMPUTE, &frmY::cmdCOMPUTE_Click);
+    onPress(cmdYdata, &frmY::cmdYdata_Click);
+    onPress(cmdCOMPUTE, &frmY::cmdCOMPUTE_Click);
     enableByTyping(cmdCOMPUTE, {&txtNYd});
     for (const auto* entered : {&txtStn, &txtM1, &txtM2, &TXTM3, &TXTM4, &txtM5, &txtM6})
         enableByTyping(cmdCOMPUTE, *entered);

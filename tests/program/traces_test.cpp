@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -120,6 +121,7 @@ int main(int argc, char* argv[])
     {
         QApplication application(argc, argv);
         QApplication::setQuitOnLastWindowClosed(false);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");  // as the program has it
         result = RUN_ALL_TESTS();
     }
     delete house;

@@ -87,8 +87,8 @@ frmM1::frmM1(flow::Chain& owner, const frmStart& start, const frmT1& t1)
 
     onChange(txtNB, &frmM1::txtNB_Change);
     onChange(txtVL, &frmM1::txtVL_Change);
-    onClick(cmdData, &frmM1::cmdData_Click);
-    onClick(cmdCompute, &frmM1::cmdCompute_Click);
+    onPress(cmdData, &frmM1::cmdData_Click);
+    onPress(cmdCompute, &frmM1::cmdCompute_Click);
     enableByTyping(cmdCompute, {&txtNB, &txtVL});
     for (const Column* entered : {&txtND, &txtBL, &txtNS, &txtNM, &txtDV, &txtDS})
         enableByTyping(cmdCompute, *entered);

@@ -52,8 +52,8 @@ frmM2::frmM2(flow::Chain& owner, const frmStart& start, const frmT1& t1, const f
 
     openSource(start.txtT1(1).text());
 
-    onClick(cmdData, &frmM2::cmdData_Click);
-    onClick(cmdCompute, &frmM2::cmdCompute_Click);
+    onPress(cmdData, &frmM2::cmdData_Click);
+    onPress(cmdCompute, &frmM2::cmdCompute_Click);
     enableByTyping(cmdCompute, {&txtNLC, &txtKbeats, &txtNG, &txtSL});
     enableByTyping(cmdCompute, txtLCN);
 }

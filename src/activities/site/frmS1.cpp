@@ -58,8 +58,8 @@ frmS1::frmS1(flow::Chain& owner, const frmStart& start, const frmT1& t1)
     openSource(start.txtT1(1).text());
 
     enableByTyping(cmdCompute, txtND);
-    onClick(cmdData, &frmS1::cmdData_Click);
-    onClick(cmdCompute, &frmS1::cmdCompute_Click);
+    onPress(cmdData, &frmS1::cmdData_Click);
+    onPress(cmdCompute, &frmS1::cmdCompute_Click);
 }
 
 void frmS1::layOut(const frmT1& t1)

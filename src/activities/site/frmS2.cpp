@@ -92,8 +92,8 @@ frmS2::frmS2(flow::Chain& owner, const frmStart& start, const frmT1& t1, const f
     onChange(txtTB4, &frmS2::txtTB4_Change);
     enableByTyping(cmdCompute, {&txtTB1, &txtTB2, &txtTB3, &txtTB4});
     enableByTyping(cmdCompute, txtND);
-    onClick(cmdData, &frmS2::cmdData_Click);
-    onClick(cmdCompute, &frmS2::cmdCompute_Click);
+    onPress(cmdData, &frmS2::cmdData_Click);
+    onPress(cmdCompute, &frmS2::cmdCompute_Click);
 }
 
 void frmS2::layOut(const frmT1& t1)

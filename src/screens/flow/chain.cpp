@@ -1,29 +1,18 @@
 #include "screens/flow/chain.h"
 
 #include <QApplication>
-#include <QDate>
-#include <QLocale>
-#include <QScopeGuard>
 #include <QScopedValueRollback>
-#include <QScreen>
 #include <QThread>
 #include <algorithm>
 #include <stdexcept>
 
+#include "screens/flow/placement.h"
+
 namespace flow {
 
-namespace {
-
-constexpr int TickMs = 100;
-constexpr QSize Preferred(1340, 690);  // of a 1366x768 screen, less the desktop's own bars
-constexpr QSize Frame(8, 34);          // a window manager's borders and title bar, at a guess
-
-}  // namespace
-
-Chain::Chain(Dialogs& dialogs, store::DataFile dataFile) : m_dialogs(dialogs), m_dataFile(std::move(dataFile))
+Chain::Chain(Dialogs& dialogs, store::DataFile dataFile)
+    : m_dialogs(dialogs), m_dataFile(std::move(dataFile)), m_clock([this](const QString& date) { tick(date); })
 {
-    m_clock.setInterval(TickMs);
-    QObject::connect(&m_clock, &QTimer::timeout, &m_clock, [this] { tick(); });
 }
 
 Chain::~Chain()
@@ -46,21 +35,8 @@ std::size_t Chain::indexOf(std::type_index type) const
 Screen& Chain::loaded(Link& link)
 {
     if (!link.screen)
-        link.screen = link.make(*this);
+        link.screen = link.create();
     return *link.screen;
-}
-
-void Chain::lookBack(const std::function<void()>& reading)
-{
-    std::vector<Link*> absent;
-    for (Link& link : m_links)
-        if (!link.screen)
-            absent.push_back(&link);
-    const auto takeOff = qScopeGuard([&] {
-        for (Link* link : absent)
-            unload(*link);
-    });
-    reading();
 }
 
 void Chain::showNextAfter(const Screen& screen)
@@ -87,7 +63,7 @@ void Chain::end()
         if (!link.screen)
             continue;
         link.screen->hide();
-        // A handler of it may be waiting for an answer that never comes: it stays in memory as long as the chain.
+        // One of its handlers may still be inside a dialog's event loop: keep it alive as long as the chain.
         m_ended.push_back(std::move(link.screen));
     }
     // Not quit(), which would have each window close as by its X. Without a loop there is nothing to leave.
@@ -142,48 +118,33 @@ bool Chain::endAfterQuestion(QWidget& parent, const QString& title)
 void Chain::bringForward(Screen& screen, const Screen* before)
 {
     const bool first = !screen.testAttribute(Qt::WA_WState_Created);
-    if (first) {
-        const QRect room = (before ? before : &screen)->screen()->availableGeometry();
-        const QSize size = Preferred.boundedTo(room.size() - Frame);
-        screen.resize(size);
-        const QPoint centred =
-            room.center() - QPoint((size.width() + Frame.width()) / 2, (size.height() + Frame.height()) / 2);
-        const QPoint place = before ? before->pos() : centred;
-        const QSize slack = room.size() - Frame - size;
-        screen.move(std::clamp(place.x(), room.left(), room.left() + std::max(0, slack.width())),
-                    std::clamp(place.y(), room.top(), room.top() + std::max(0, slack.height())));
-    }
+    if (first)
+        place(screen, before);
     screen.setWindowState(screen.windowState() & ~Qt::WindowMinimized);
     screen.show();
-    screen.update();  // it may have freed its backing store
+    screen.update();  // its backing store may have been freed
     screen.raise();
     screen.activateWindow();
     if (first && screen.firstBox())
         screen.firstBox()->setFocus();
     m_clock.start();
-    tick();
     if (first)
         screen.onFirstShown();
     else
         screen.onShownAgain();
 }
 
-void Chain::tick()
+void Chain::tick(const QString& date)
 {
-    // The date as text changes once a day; it is made once a day.
-    if (const QDate today = QDate::currentDate(); today != m_day) {
-        m_day = today;
-        m_date = QLocale::system().toString(today, QLocale::ShortFormat);
-    }
-    for (const Link& link : m_links)
-        if (link.screen && link.screen->isVisible() && !link.screen->isMinimized())
-            link.screen->Timer1_Timer(m_date);
-
-    // The toolkit's pictures of nine covered windows would take more memory than everything else.
     const Screen* const front = inFront();
-    for (const Link& link : m_links)
-        if (link.screen && link.screen.get() != front)
-            link.screen->releaseBackingStore();
+    for (const Link& link : m_links) {
+        if (!link.screen)
+            continue;
+        if (link.screen->isVisible() && !link.screen->isMinimized())
+            link.screen->Timer1_Timer(date);
+        if (link.screen.get() != front)
+            m_backingStores.release(*link.screen);
+    }
 }
 
 }  // namespace flow

@@ -1,19 +1,29 @@
 #pragma once
-#include <QDate>
-#include <QTimer>
 #include <functional>
 #include <memory>
 #include <typeindex>
+#include <utility>
 #include <vector>
 
+#include "screens/flow/backing_stores.h"
+#include "screens/flow/clock.h"
 #include "screens/flow/dialogs.h"
 #include "screens/flow/screen.h"
 #include "store/data_file.h"
 
 namespace flow {
 
-/// The screens in their fixed order. A screen is made when it is first asked for, shown or not, and stays until it
-/// is unloaded; main.cpp says which screens there are.
+/// The Sr SE at work and the division it belongs to, as the start screen shows them.
+struct SrSe {
+    QString railway;
+    QString division;
+    QString index;  ///< within the division, from 1
+    QString name;
+    QString dataFile;  ///< full path; blank if none was chosen
+};
+
+/// Owns the screens in their fixed order. A screen is created when it is first asked for, shown or not, and stays until
+/// it is unloaded; `compose` says which screens there are.
 class Chain {
 public:
     explicit Chain(Dialogs& dialogs, store::DataFile dataFile = store::DataFile());
@@ -21,30 +31,39 @@ public:
     Chain(const Chain&) = delete;
     Chain& operator=(const Chain&) = delete;
 
-    /// Appends a screen to the chain. `make` may ask the chain for earlier screens.
-    template <class Form>
-    void add(std::function<std::unique_ptr<Form>(Chain&)> make)
+    /// Appends a screen to the chain. Its constructor takes the chain and the screens of `Earlier`, each of which is
+    /// created first if need be.
+    template <class Form, class... Earlier>
+    void add()
     {
-        m_links.push_back({typeid(Form), [make](Chain& chain) -> std::unique_ptr<Screen> { return make(chain); }, {}});
+        m_links.push_back({typeid(Form),
+                           [this]() -> std::unique_ptr<Screen> {
+                               return std::make_unique<Form>(*this, std::as_const(get<Earlier>())...);
+                           },
+                           {}});
     }
 
+    /// Creates the screen if need be.
     template <class Form>
     Form& get()
     {
-        return static_cast<Form&>(loaded(linkOf(typeid(Form))));
+        return static_cast<Form&>(loaded(m_links[indexOf(typeid(Form))]));
+    }
+
+    /// The screen if it is loaded, else nullptr.
+    template <class Form>
+    const Form* find() const
+    {
+        return static_cast<const Form*>(m_links[indexOf(typeid(Form))].screen.get());
     }
 
     template <class Form>
     bool isLoaded() const
     {
-        return m_links[indexOf(typeid(Form))].screen != nullptr;
+        return find<Form>() != nullptr;
     }
 
-    /// Lets `reading` ask for screens. Those that are made for it alone are taken off again: made before their turn,
-    /// they would keep what the screens before them held then.
-    void lookBack(const std::function<void()>& reading);
-
-    /// Brings the screen to the front, makes it first if need be.
+    /// Brings the screen to the front; creates it if need be.
     template <class Form>
     Form& show()
     {
@@ -53,14 +72,22 @@ public:
         return form;
     }
 
-    /// Next: the screen behind `screen` in the order.
+    /// Next: shows the screen that follows `screen` in the order.
     void showNextAfter(const Screen& screen);
 
-    /// Takes the screen off with all that stands on it; the next time it is asked for it is new and empty.
+    /// Hides and deletes the screen with its contents; the next time it is asked for it is new and empty.
     template <class Form>
     void unload()
     {
-        unload(linkOf(typeid(Form)));
+        unload(m_links[indexOf(typeid(Form))]);
+    }
+
+    /// Unloads every screen that lies between the two, in their order.
+    template <class First, class Last>
+    void unloadBetween()
+    {
+        for (std::size_t i = indexOf(typeid(First)) + 1; i < indexOf(typeid(Last)); ++i)
+            unload(m_links[i]);
     }
 
     /// Unloads all screens in their order and ends the program with status 0.
@@ -74,34 +101,36 @@ public:
     /// the program goes on, or the question is standing there already.
     bool mayEnd();
 
+    /// Kept up to date by the start screen.
+    void setSrSe(SrSe srSe) { m_srSe = std::move(srSe); }
+    const SrSe& srSe() const { return m_srSe; }
+
     Dialogs& dialogs() { return m_dialogs; }
     const store::DataFile& dataFile() const { return m_dataFile; }
 
 private:
     struct Link {
         std::type_index type;
-        std::function<std::unique_ptr<Screen>(Chain&)> make;
+        std::function<std::unique_ptr<Screen>()> create;
         std::unique_ptr<Screen> screen;
     };
 
     std::size_t indexOf(std::type_index type) const;
-    Link& linkOf(std::type_index type) { return m_links[indexOf(type)]; }
-    Screen& loaded(Link& link);
-    void unload(Link& link);
-    /// A screen shown for the first time opens in the place of the one before it, wherever the user has moved that.
+    static Screen& loaded(Link& link);
+    static void unload(Link& link);
     void bringForward(Screen& screen, const Screen* before = nullptr);
     Screen* inFront() const;
     bool endAfterQuestion(QWidget& parent, const QString& title);
-    void tick();
+    void tick(const QString& date);
 
     Dialogs& m_dialogs;
     store::DataFile m_dataFile;
+    SrSe m_srSe;
+    BackingStores m_backingStores;
     std::vector<Link> m_links;
     std::vector<std::unique_ptr<Screen>> m_ended;  // unloaded by the end of the program
     bool m_asking = false;                         // whether to end
-    QTimer m_clock;
-    QDate m_day;
-    QString m_date;  // m_day in the system's short form
+    Clock m_clock;
 };
 
 }  // namespace flow

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "screens/flow/chain.h"
-#include "start/frmStart.h"
 
 namespace flow {
 
@@ -25,7 +24,7 @@ StepScreen::StepScreen(Chain& owner, const QString& name, const QString& caption
 {
     cmdNext.setEnabled(false);
     cmdPrint.setEnabled(false);
-    onClick(cmdNext, &StepScreen::cmdNext_Click);
+    onPress(cmdNext, &StepScreen::cmdNext_Click);
 }
 
 void StepScreen::finishCompute(controls::Button& compute)
@@ -130,7 +129,7 @@ void ImportScreen::onFirstShown()
 
 void ImportScreen::onShownAgain()
 {
-    const QString path = chain.get<frmStart>().txtT1(1).text();
+    const QString& path = chain.srSe().dataFile;
     if (cmdNext.isEnabled() || path.trimmed().isEmpty() || path == m_path)
         return;
     openSource(path);

@@ -5,7 +5,6 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QSettings>
 
 namespace flow {
 
@@ -30,11 +29,6 @@ QMessageBox::StandardButton show(QWidget& parent, QMessageBox::Icon icon, const 
 }
 
 }  // namespace
-
-DesktopDialogs::DesktopDialogs()
-{
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");  // no folder: nothing can lie in it
-}
 
 bool DesktopDialogs::askYesNo(QWidget& parent, const QString& title, const QString& prompt, bool defaultYes)
 {

@@ -36,9 +36,6 @@ public:
 /// The boxes of the desktop.
 class DesktopDialogs : public Dialogs {
 public:
-    /// From here on the toolkit keeps no settings: its file dialog would write its history into the home folder.
-    DesktopDialogs();
-
     bool askYesNo(QWidget& parent, const QString& title, const QString& prompt, bool defaultYes) override;
     int showCritical(QWidget& parent, const QString& title, const QString& text) override;
     int showMessage(QWidget& parent, const QString& title, const QString& text) override;

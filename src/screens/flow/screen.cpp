@@ -1,21 +1,16 @@
 #include "screens/flow/screen.h"
 
 #include <QApplication>
-#include <QBackingStore>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPrinter>
 #include <QScrollBar>
-#include <QWindow>
 #include <exception>
-
-#include <malloc.h>
 
 #include "figures/conversions.h"
 #include "screens/controls/entry.h"
 #include "screens/flow/chain.h"
 #include "screens/flow/printing.h"
-#include "start/frmStart.h"
 
 namespace flow {
 
@@ -32,7 +27,7 @@ Screen::Screen(Chain& owner, const QString& name, const QString& caption, std::i
     setObjectName(name);
     setWindowTitle(caption);
     txtRly(2).setLocked(true);
-    onClick(cmdPrint, &Screen::cmdPrint_Click);
+    onPress(cmdPrint, &Screen::cmdPrint_Click);
 }
 
 void Screen::Timer1_Timer(const QString& date)
@@ -41,23 +36,7 @@ void Screen::Timer1_Timer(const QString& date)
         txtRly(2).setText(date);
 }
 
-void Screen::releaseBackingStore()
-{
-    if (!backingStore() || backingStore()->size().isEmpty())
-        return;
-    backingStore()->resize(QSize(0, 0));
-    windowHandle()->installEventFilter(this);
-    malloc_trim(0);  // the C library would keep it for the next picture
-}
-
-bool Screen::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == windowHandle() && event->type() == QEvent::Expose && backingStore()->size().isEmpty())
-        update();  // the toolkit would take what it has for painted
-    return QWidget::eventFilter(watched, event);
-}
-
-bool Screen::boxIsOpen()
+bool Screen::dialogIsOpen()
 {
     return QApplication::activeModalWidget();
 }
@@ -67,7 +46,7 @@ void Screen::cmdPrint_Click()
     try {
         QPrinter printer;
         // Also the name that the dialog offers for a file: another one for each Sr SE's screen.
-        printer.setDocName(chain.get<frmStart>().txtT1(4).text() + " " + windowTitle().simplified());
+        printer.setDocName(chain.srSe().index + " " + windowTitle().simplified());
         const auto choice = chain.dialogs().print(*this, printer);
         if (!choice)
             return;

@@ -26,10 +26,6 @@ public:
     /// Each time it is brought back later.
     virtual void onShownAgain() {}
 
-    /// Gives back the picture that the toolkit keeps of the window, 4 bytes a point. What the user sees stays; the
-    /// whole window is painted anew when a covered part of it is uncovered or anything on it changes.
-    void releaseBackingStore();
-
     /// Where the user starts on this screen.
     virtual QWidget* firstBox() = 0;
 
@@ -68,20 +64,19 @@ protected:
     /// Gives that button the focus as well: Enter goes on.
     void focusDefault(QPushButton& button);
 
-    /// The handler runs unless a box waits for an answer: a press that a mnemonic, a tool or a screen reader sends a
-    /// moment late would otherwise work on a screen whose own handler is half-way.
+    /// Ignored while a modal dialog is open: a delayed mnemonic or assistive click would re-enter a running handler.
     template <class Form>
-    void onClick(controls::Button& button, void (Form::*handler)())
+    void onPress(controls::Button& button, void (Form::*handler)())
     {
         connect(&button, &QAbstractButton::clicked, this, [this, handler] {
-            if (!boxIsOpen())
+            if (!dialogIsOpen())
                 guard([&] { (static_cast<Form*>(this)->*handler)(); });
         });
     }
 
-    /// The choice has been made when the handler runs: nothing may keep it from following.
+    /// For option buttons and check boxes. Never ignored: the choice has been made when the handler runs.
     template <class Form>
-    void onClick(QAbstractButton& button, void (Form::*handler)())
+    void onChoice(QAbstractButton& button, void (Form::*handler)())
     {
         connect(&button, &QAbstractButton::clicked, this,
                 [this, handler] { guard([&] { (static_cast<Form*>(this)->*handler)(); }); });
@@ -100,13 +95,12 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
     Chain& chain;
     controls::FormLayout form;
 
 private:
-    static bool boxIsOpen();
+    static bool dialogIsOpen();
     void report(const figures::RunTimeError& error);
 };
 

@@ -2,12 +2,12 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <stdexcept>
 
 #include "start/frmStart.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
 #include "track/frmT2.h"
+#include "track/frmT4.h"
 
 namespace {
 
@@ -38,24 +38,27 @@ TEST_F(ChainTest, ALaterScreenMakesTheEarlierOnesThatItReads)
     EXPECT_TRUE(chain.isLoaded<frmT1>());
 }
 
-TEST_F(ChainTest, LookingBackLeavesNoScreenThatWasNotThere)
+TEST_F(ChainTest, FindingAScreenCreatesNone)
+{
+    on<frmStart>();
+    EXPECT_EQ(chain.find<frmT1>(), nullptr);
+    EXPECT_FALSE(chain.isLoaded<frmT1>());
+    const frmT1& t1 = on<frmT1>();
+    EXPECT_EQ(chain.find<frmT1>(), &t1);
+    EXPECT_EQ(chain.find<frmT2>(), nullptr);
+}
+
+TEST_F(ChainTest, WhatLiesBetweenTwoScreensIsUnloaded)
 {
     on<frmT1>();
-    type("txtT1(0)", "Sample Section");
-    chain.lookBack([this] {
-        EXPECT_EQ(chain.get<frmT1>().txtT1(0).text().toStdString(), "Sample Section");
-        chain.get<frmT2>();
-        EXPECT_TRUE(chain.isLoaded<frmT2>());
-    });
-    EXPECT_FALSE(chain.isLoaded<frmT2>());
-    EXPECT_EQ(text("txtT1(0)"), "Sample Section");
-
-    EXPECT_THROW(chain.lookBack([this] {
-        chain.get<frmT2>();
-        throw std::runtime_error("");
-    }),
-                 std::runtime_error);
-    EXPECT_FALSE(chain.isLoaded<frmT2>());
+    on<frmT2>();
+    on<frmT4>();
+    chain.unloadBetween<frmStart, frmT4>();
+    EXPECT_TRUE(chain.isLoaded<frmStart>());
+    EXPECT_FALSE(chain.isLoaded<frmT1>() || chain.isLoaded<frmT2>());
+    EXPECT_TRUE(chain.isLoaded<frmT4>());
+    chain.unloadBetween<frmStart, frmT1>();
+    EXPECT_TRUE(chain.isLoaded<frmStart>()) << "there is nothing between neighbours";
 }
 
 TEST_F(ChainTest, AnUnloadedScreenIsGoneAndTheNextOneNewAndEmpty)

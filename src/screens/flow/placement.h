@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+namespace flow {
+
+/// Gives a screen that has never been shown its size and place: over `before`, the screen the user comes from, wherever
+/// that has been moved to; in the middle of the desktop without one. All of it lies on the desktop.
+void place(QWidget& screen, const QWidget* before);
+
+}  // namespace flow
