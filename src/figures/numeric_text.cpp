@@ -73,6 +73,12 @@ std::string_view withoutLeadingBlanks(std::string_view text)
     return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
 
+/// Whether nothing but blanks follows the numeral that `text` starts with.
+bool isWholeOf(std::string_view text, const Numeral& numeral)
+{
+    return numeral.length > 0 && text.find_first_not_of(' ', numeral.length) == std::string_view::npos;
+}
+
 /// A text as an error names it: in quotes and not too long for a box (cut between characters of UTF-8).
 std::string quoted(std::string_view text)
 {
@@ -106,11 +112,23 @@ double valueOf(std::string_view text)
     return numeral.value;
 }
 
+Reading read(std::string_view text)
+{
+    const std::string_view number = withoutLeadingBlanks(text);
+    const Numeral numeral = numeralAtStart(number);
+    if (number.empty())
+        return {};
+    if (std::isinf(numeral.value))
+        return {TextKind::TooLarge, 0.0};
+    const bool whole = text == "." || isWholeOf(number, numeral);
+    return {whole ? TextKind::Number : TextKind::NotANumber, numeral.value};
+}
+
 float strictSingle(std::string_view text, std::string_view what, int row)
 {
     const std::string_view number = withoutLeadingBlanks(text);
     const Numeral numeral = numeralAtStart(number);
-    if (numeral.length == 0 || number.find_first_not_of(' ', numeral.length) != std::string_view::npos)
+    if (!isWholeOf(number, numeral))
         throw RunTimeError(ErrorKind::TypeMismatch, std::string(what) + " is not a number: " + quoted(text), row);
     return toSingle(numeral.value, what, row);
 }

@@ -9,6 +9,20 @@ namespace figures {
 /// Throws RunTimeError (overflow) beyond the range of a double.
 double valueOf(std::string_view text);
 
+/// What the text of a box that is read as a number looks like.
+enum class TextKind {
+    Blank,
+    Number,      ///< one number and blanks, or the lone point that pictures print for 0
+    NotANumber,  ///< counts as the number that it starts with, or as 0
+    TooLarge,    ///< starts with a number beyond the range of a double
+};
+struct Reading {
+    TextKind kind = TextKind::Blank;
+    double value = 0.0;  ///< of the lenient reading; 0 where it overflows
+};
+/// Never throws.
+Reading read(std::string_view text);
+
 /// The strict reading: the whole text, blanks at its ends apart, must be one number; rounded to single.
 /// Throws RunTimeError: type mismatch ("`what` is not a number: ...", with `row`), overflow beyond a single.
 float strictSingle(std::string_view text, std::string_view what, int row);

@@ -12,7 +12,9 @@
 using namespace std::string_literals;
 using figures::countUpTo;
 using figures::ErrorKind;
+using figures::read;
 using figures::strictSingle;
+using figures::TextKind;
 using figures::textOf;
 using figures::valueOf;
 
@@ -21,13 +23,13 @@ namespace {
 constexpr double LargestDouble = std::numeric_limits<double>::max();
 const std::string Zeros(400, '0');
 
-struct Reading {
+struct LenientCase {
     std::string text;
     double value;
 };
 
 // clang-format off
-const Reading Readings[] = {
+const LenientCase Readings[] = {
     // plain numbers
     {"12.5",                          12.5},
     {"0",                              0.0},
@@ -160,6 +162,52 @@ TEST(ValueOf, ReadsAPointWhateverTheLocale)
     std::setlocale(LC_ALL, before.c_str());
     if (!commaLocale)
         GTEST_SKIP() << "no locale with a decimal comma is installed: tried in the C locale only";
+}
+
+// ---- what a text is taken for -------------------------------------------------------------------------------------
+
+struct TakenFor {
+    std::string text;
+    TextKind kind;
+    double value;
+};
+
+// clang-format off
+const TakenFor TakenFors[] = {
+    {"",                  TextKind::Blank,        0.0},
+    {"   ",               TextKind::Blank,        0.0},
+    {"12.5",              TextKind::Number,      12.5},
+    {" 12 ",              TextKind::Number,      12.0},
+    {"+7",                TextKind::Number,       7.0},
+    {"-.5",               TextKind::Number,      -0.5},
+    {"5.",                TextKind::Number,       5.0},
+    {".",                 TextKind::Number,       0.0},   // as pictures print 0
+    {"1e39",              TextKind::Number,      1e39},   // beyond a single, not beyond a double
+    {"1e-400",            TextKind::Number,       0.0},
+    {"12km",              TextKind::NotANumber,  12.0},
+    {"1,234",             TextKind::NotANumber,   1.0},
+    {"12 13",             TextKind::NotANumber,  12.0},
+    {"-.5x",              TextKind::NotANumber,  -0.5},
+    {"12e",               TextKind::NotANumber,  12.0},
+    {"0x10",              TextKind::NotANumber,   0.0},
+    {"abc",               TextKind::NotANumber,   0.0},
+    {"-",                 TextKind::NotANumber,   0.0},
+    {" .",                TextKind::NotANumber,   0.0},   // no picture prints a blank before its point
+    {"\t5",               TextKind::NotANumber,   0.0},
+    {"inf",               TextKind::NotANumber,   0.0},
+    {"1e400",             TextKind::TooLarge,     0.0},
+    {"-1e400",            TextKind::TooLarge,     0.0},
+    {"1" + Zeros + " km", TextKind::TooLarge,     0.0},
+};
+// clang-format on
+
+TEST(Read, TellsANumberFromATextThatOnlyCountsAsOne)
+{
+    for (const auto& [text, kind, value] : TakenFors) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(read(text).kind, kind);
+        EXPECT_EQ(read(text).value, value);
+    }
 }
 
 // ---- the strict reading --------------------------------------------------------------------------------------------

@@ -48,6 +48,10 @@ void tryReading(const std::string& text)
     hold(valueOrOverflow("  " + text) == value, text, "blanks in front change the value");
     hold(valueOrOverflow(text + "x") == value, text, "a letter behind changes the value");
 
+    const figures::Reading reading = figures::read(text);
+    hold((reading.kind == figures::TextKind::TooLarge) == !value, text, "read and valueOf differ in what is too large");
+    hold(reading.value == value.value_or(0.0), text, "read counts otherwise than valueOf");
+
     const double count = figures::countUpTo(16, text);
     hold(std::isfinite(count) && count <= 16, text, "countUpTo leaves its limit");
     hold(!value || count == std::min(*value, 16.0), text, "countUpTo is not the value up to its limit");

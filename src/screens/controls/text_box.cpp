@@ -11,7 +11,6 @@
 
 #include "figures/numeric_text.h"
 #include "figures/picture.h"
-#include "figures/run_time_error.h"
 #include "screens/controls/entry.h"
 #include "screens/controls/tool_tip.h"
 
@@ -25,18 +24,6 @@ constexpr QRgb Black = qRgb(0, 0, 0);
 constexpr QRgb Grey = qRgb(96, 96, 96);
 constexpr QRgb Red = qRgb(255, 0, 0);
 constexpr QRgb Remark = qRgb(192, 0, 32);
-
-bool isNumber(const std::string& text)
-{
-    if (text == ".")
-        return true;  // as pictures show 0
-    try {
-        figures::strictSingle(text, "", 0);
-        return true;
-    } catch (const figures::RunTimeError& error) {
-        return error.kind() == figures::ErrorKind::Overflow;
-    }
-}
 
 // "12" where the picture prints "12."
 QString plain(double value)
@@ -101,17 +88,16 @@ void TextBox::setLimit(int limit)
 QString TextBox::remark() const
 {
     const std::string entered = text().toStdString();
-    if (!m_numeric || isLocked() || entered.find_first_not_of(' ') == std::string::npos)
+    const figures::Reading reading = figures::read(entered);
+    if (!m_numeric || isLocked() || reading.kind == figures::TextKind::Blank)
         return {};
     if (m_limit && figures::countUpTo(*m_limit + 1, entered) > *m_limit)
         return QString("The most is %1: more counts as %1.").arg(*m_limit);
-    try {
-        const QString counted = plain(figures::valueOf(entered));
-        return isNumber(entered) ? QString()
-                                 : QString("\"%1\" is not a number: it counts as %2.").arg(text().trimmed(), counted);
-    } catch (const figures::RunTimeError&) {
+    if (reading.kind == figures::TextKind::TooLarge)
         return QString("\"%1\" is too large to compute with.").arg(text().trimmed());
-    }
+    if (reading.kind == figures::TextKind::NotANumber)
+        return QString("\"%1\" is not a number: it counts as %2.").arg(text().trimmed(), plain(reading.value));
+    return {};
 }
 
 void TextBox::updateRemark()
