@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "figures/utf8.h"
 #include "store/reader_output.h"
 #include "store/reader_run.h"
 #include "store/refusal.h"
@@ -16,7 +17,7 @@ namespace {
 /// The file's name as a sentence can show it: without its folders, control characters as blanks, not endless.
 std::string shownName(const std::filesystem::path& path)
 {
-    constexpr std::size_t longest = 120;
+    constexpr std::size_t maxBytes = 120;
     // A path that ends in a slash means the folder before it.
     std::string name = (path.has_filename() ? path : path.parent_path()).filename().native();
     if (name.empty())
@@ -24,13 +25,7 @@ std::string shownName(const std::filesystem::path& path)
     for (char& character : name)
         if (static_cast<unsigned char>(character) < ' ' || character == '\x7f')
             character = ' ';
-    if (name.size() > longest) {
-        std::size_t end = longest;
-        while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0) == 0x80)  // not inside a character
-            --end;
-        name = name.substr(0, end) + "...";
-    }
-    return name;
+    return figures::shortened(name, maxBytes);
 }
 
 /// A path that no file can have; the reader could not even be told of it.
