@@ -2,6 +2,7 @@
 
 #include "figures/conversions.h"
 #include "figures/run_time_error.h"
+#include "figures/utf8.h"
 
 #include <algorithm>
 #include <charconv>
@@ -79,16 +80,11 @@ bool isWholeOf(std::string_view text, const Numeral& numeral)
     return numeral.length > 0 && text.find_first_not_of(' ', numeral.length) == std::string_view::npos;
 }
 
-/// A text as an error names it: in quotes and not too long for a box (cut between characters of UTF-8).
+/// A text as an error names it: in quotes and not too long for a box.
 std::string quoted(std::string_view text)
 {
-    constexpr std::size_t most = 40;
-    if (text.size() <= most)
-        return "\"" + std::string(text) + "\"";
-    std::size_t end = most;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
-        --end;
-    return "\"" + std::string(text.substr(0, end)) + "...\"";
+    constexpr std::size_t maxBytes = 40;
+    return "\"" + shortened(text, maxBytes) + "\"";
 }
 
 template <typename Real>

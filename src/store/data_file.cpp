@@ -4,10 +4,15 @@
 #include <exception>
 #include <system_error>
 #include <utility>
+#include <vector>
 
+#include <unistd.h>
+
+#include "figures/utf8.h"
 #include "store/reader_output.h"
 #include "store/reader_run.h"
 #include "store/refusal.h"
+#include "store/wire.h"
 
 namespace store {
 
@@ -16,7 +21,7 @@ namespace {
 /// The file's name as a sentence can show it: without its folders, control characters as blanks, not endless.
 std::string shownName(const std::filesystem::path& path)
 {
-    constexpr std::size_t longest = 120;
+    constexpr std::size_t maxBytes = 120;
     // A path that ends in a slash means the folder before it.
     std::string name = (path.has_filename() ? path : path.parent_path()).filename().native();
     if (name.empty())
@@ -24,13 +29,7 @@ std::string shownName(const std::filesystem::path& path)
     for (char& character : name)
         if (static_cast<unsigned char>(character) < ' ' || character == '\x7f')
             character = ' ';
-    if (name.size() > longest) {
-        std::size_t end = longest;
-        while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0) == 0x80)  // not inside a character
-            --end;
-        name = name.substr(0, end) + "...";
-    }
-    return name;
+    return figures::shortened(name, maxBytes);
 }
 
 /// A path that no file can have; the reader could not even be told of it.
@@ -39,23 +38,27 @@ bool isImpossible(const std::filesystem::path& path)
     return path.empty() || path.native().size() >= PATH_MAX || path.native().find('\0') != std::string::npos;
 }
 
-Reading readingOf(const ReaderRun& run, const Asked& asked)
+/// What is to blame for a run that gave nothing.
+Refusal refusalOf(const ReaderRun& run)
 {
+    using Ending = ReaderRun::Ending;
     switch (run.ending) {
-    case ReaderRun::Ending::Finished:
-        return parseReaderOutput(run.output, asked);
-    case ReaderRun::Ending::Failed:
-        return refused(Refusal::NoProperAnswer, asked);
-    case ReaderRun::Ending::Died:
-        return refused(Refusal::Died, asked);
-    case ReaderRun::Ending::TooSlow:
-        return refused(Refusal::TooSlow, asked);
-    case ReaderRun::Ending::TooMuch:
-        return refused(Refusal::TooLarge, asked);
-    case ReaderRun::Ending::NotStarted:
-        return refused(Refusal::NotStarted, asked);
+    case Ending::Died:
+        // The greeting comes before the file is touched: without it the program itself is broken.
+        return run.output.starts_with(wire::Greeting) ? Refusal::Died : Refusal::NotStarted;
+    case Ending::Overstepped:
+        return Refusal::Overstepped;
+    case Ending::TooSlow:
+        return Refusal::TooSlow;
+    case Ending::TooMuch:
+        return Refusal::TooLarge;
+    case Ending::NotStarted:
+        return access("/proc/self/exe", F_OK) == 0 ? Refusal::NotStarted : Refusal::NoProc;
+    case Ending::Finished:
+    case Ending::Failed:
+        break;
     }
-    return refused(Refusal::NoProperAnswer, asked);
+    return Refusal::NoProperAnswer;
 }
 
 }  // namespace
@@ -69,13 +72,18 @@ Reading DataFile::read(const std::filesystem::path& path, const std::string& tab
 {
     const Asked asked{.file = shownName(path), .table = tableName};
     if (isImpossible(path))
-        return refused(Refusal::NoSuchFile, asked);
+        return failedReading(Refusal::NoSuchFile, asked);
     if (tableName.find('\0') != std::string::npos)
-        return refused(Refusal::NoTable, asked);
+        return failedReading(Refusal::NoTable, asked);
+    std::vector<std::string> arguments{m_reader.native(), path.native(), tableName};
+    if (m_mayReadUnconfined)
+        arguments.emplace_back(wire::Unconfined);
     try {
-        return readingOf(runReader({m_reader.native(), path.native(), tableName}, m_deadline), asked);
+        const ReaderRun run = runReader(arguments, m_deadline);
+        return run.ending == ReaderRun::Ending::Finished ? parseReaderOutput(run.output, asked)
+                                                         : failedReading(refusalOf(run), asked);
     } catch (const std::exception&) {  // out of memory: a table of this size is no Sr SE's
-        return refused(Refusal::TooLarge, asked);
+        return failedReading(Refusal::TooLarge, asked);
     }
 }
 

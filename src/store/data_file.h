@@ -12,8 +12,10 @@ namespace store {
 /// what is missing from it ("The file says 16 records, 9 could be read: it may be damaged."), else "".
 struct Reading {
     Table table;
-    std::string reason;
-    std::string notice;
+    std::string reason{};
+    std::string notice{};
+    bool isStale = false;       ///< the file was written to while it was read; goes with an open table only
+    bool isUnconfined = false;  ///< nothing was read because the system cannot confine the reader; see allowUnconfined
 };
 
 /// The Sr SE data file. Never writes to it, never throws, never takes much longer than the deadline.
@@ -26,11 +28,16 @@ public:
     /// Reads the table `tableName` of the file at `path`.
     Reading read(const std::filesystem::path& path, const std::string& tableName) const;
 
+    /// From here on files are also read where the system cannot confine the reader: one that a file has taken over can
+    /// then do whatever the user can do. For the user alone to decide.
+    void allowUnconfined() { m_mayReadUnconfined = true; }
+
     static std::filesystem::path installedReader();
 
 private:
     std::filesystem::path m_reader;
     std::chrono::milliseconds m_deadline;
+    bool m_mayReadUnconfined = false;
 };
 
 }  // namespace store

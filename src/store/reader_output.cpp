@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "figures/utf8.h"
 #include "store/wire.h"
 
 namespace store {
@@ -52,7 +53,26 @@ public:
         return byte == 1;
     }
 
-    std::string_view text() { return take(number()); }
+    std::string_view text()
+    {
+        const std::string_view taken = take(number());
+        if (!figures::isUtf8(taken))
+            throw Malformed();
+        return taken;
+    }
+
+    /// Numbers below `limit`, each larger than the one before.
+    std::vector<std::uint32_t> numbersBelow(int limit)
+    {
+        std::vector<std::uint32_t> numbers;
+        for (std::uint32_t left = number(); left > 0; --left) {
+            numbers.push_back(number());
+            const bool isRising = numbers.size() == 1 || numbers[numbers.size() - 2] < numbers.back();
+            if (!isRising || numbers.back() >= static_cast<std::uint64_t>(limit))
+                throw Malformed();
+        }
+        return numbers;
+    }
 
 private:
     std::string_view m_rest;
@@ -76,24 +96,19 @@ Shortfall readShortfall(Cursor& cursor, const Table& table)
     shortfall.recordsRead = static_cast<std::uint32_t>(table.rows() - 1);
     shortfall.recordsLost = cursor.yesNo();
     shortfall.endsInsidePage = cursor.yesNo();
+    shortfall.changed = cursor.yesNo();
     shortfall.cellsUnreadable = cursor.number();
-    const std::uint32_t columns = cursor.number();
-    if (columns > wire::MaxColumns)
-        throw Malformed();
-    for (std::uint32_t i = 0; i < columns; ++i) {
-        const std::uint32_t column = cursor.number();
-        if (column + std::uint64_t{1} >= static_cast<std::uint64_t>(table.columns()))
-            throw Malformed();
+    shortfall.recordsDamaged = cursor.numbersBelow(table.rows() - 1);
+    for (const std::uint32_t column : cursor.numbersBelow(table.columns() - 1))
         shortfall.columnsUnreadable.emplace_back(table.text(0, static_cast<int>(column) + 1));
-    }
     return shortfall;
 }
 
-/// Room for what such an output can hold at most; what is reserved in vain costs no memory, only addresses.
+/// Room for what such an output can hold: an upper bound; unused capacity costs address space, not memory.
 void reserveFor(Table& table, std::size_t outputBytes)
 {
-    constexpr std::size_t leastCell = 4;  // its length
-    table.reserve(outputBytes, outputBytes / leastCell);
+    constexpr std::size_t minCell = 4;  // its length
+    table.reserve(outputBytes, outputBytes / minCell);
 }
 
 Reading parse(Cursor cursor, std::size_t size, const Asked& asked)
@@ -117,9 +132,9 @@ Reading parse(Cursor cursor, std::size_t size, const Asked& asked)
             table.append(cells);
         } else if (mark == wire::Shortfall && open) {
             shortfall = readShortfall(cursor, table);
-        } else if (mark == wire::Refused && !refusal) {
+        } else if (mark == wire::Failure && !refusal) {
             const char number = cursor.mark();
-            if (number < char{1} || number > static_cast<char>(Refusal::TooLarge))
+            if (number < char{1} || number > static_cast<char>(Refusal::Changed))
                 throw Malformed();
             refusal = static_cast<Refusal>(number);
         } else {
@@ -129,15 +144,17 @@ Reading parse(Cursor cursor, std::size_t size, const Asked& asked)
     if (!cursor.atEnd() || (!shortfall && !refusal))
         throw Malformed();
     if (refusal)
-        return refused(*refusal, asked);
-    return {std::move(table), "", noticeFor(*shortfall)};
+        return failedReading(*refusal, asked);
+    return {.table = std::move(table), .notice = noticeFor(*shortfall), .isStale = shortfall->changed};
 }
 
 }  // namespace
 
-Reading refused(Refusal refusal, const Asked& asked)
+Reading failedReading(Refusal refusal, const Asked& asked)
 {
-    return {Table(asked.table, {}), reasonFor(refusal, asked), ""};
+    return {.table = Table(asked.table, {}),
+            .reason = reasonFor(refusal, asked),
+            .isUnconfined = refusal == Refusal::Unconfined};
 }
 
 Reading parseReaderOutput(std::string_view bytes, const Asked& asked)
@@ -145,7 +162,7 @@ Reading parseReaderOutput(std::string_view bytes, const Asked& asked)
     try {
         return parse(Cursor(bytes), bytes.size(), asked);
     } catch (const Malformed&) {
-        return refused(Refusal::NoProperAnswer, asked);
+        return failedReading(Refusal::NoProperAnswer, asked);
     }
 }
 

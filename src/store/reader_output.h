@@ -10,6 +10,6 @@ namespace store {
 Reading parseReaderOutput(std::string_view bytes, const Asked& asked);
 
 /// No table, and the reason in plain words.
-Reading refused(Refusal refusal, const Asked& asked);
+Reading failedReading(Refusal refusal, const Asked& asked);
 
 }  // namespace store

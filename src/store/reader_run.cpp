@@ -151,8 +151,9 @@ public:
     {
         if (m_id == NoProcess)
             return;
+        kill(m_id, SIGKILL);  // one that has left its group
         kill(-m_id, SIGKILL);
-        // One that hangs in a dead network drive cannot even be killed: it is left behind, the user is not.
+        // A process blocked on a dead network mount cannot be killed; give up on it after 200 ms.
         waitForEnd(Clock::now() + milliseconds(200));
     }
     Process(const Process&) = delete;
@@ -191,6 +192,8 @@ ReaderRun::Ending endingOf(int status, bool silent)
     using Ending = ReaderRun::Ending;
     if (WIFSIGNALED(status)) {
         const int signal = WTERMSIG(status);
+        if (signal == SIGSYS)
+            return Ending::Overstepped;
         return signal == SIGXCPU || signal == SIGKILL ? Ending::TooSlow : Ending::Died;
     }
     if (WEXITSTATUS(status) == 0)

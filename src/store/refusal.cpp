@@ -1,5 +1,7 @@
 #include "store/refusal.h"
 
+#include <algorithm>
+
 namespace store {
 
 namespace {
@@ -19,14 +21,26 @@ std::string missingRecords(const Shortfall& shortfall)
 {
     const std::string cut = "he file ends inside a page";
     std::string sentence;
-    if (shortfall.recordsSaid != 0 && shortfall.recordsSaid != shortfall.recordsRead)
+    if (shortfall.recordsSaid > shortfall.recordsRead)
         sentence = "The file says " + counted(shortfall.recordsSaid, "record") + ", " +
                    std::to_string(shortfall.recordsRead) + " could be read";
-    else if (shortfall.recordsSaid == 0 && shortfall.recordsLost)
+    else if (shortfall.recordsLost)
         sentence = "The file holds records that could not be read";
     if (shortfall.endsInsidePage)
         sentence += (sentence.empty() ? "T" : ", and t") + cut;
     return sentence;
+}
+
+/// "2, 5, 9": counted from 1; of many the first ones, "2, 5, 9, 10, 11 and 30 more".
+std::string numbered(const std::vector<std::uint32_t>& records)
+{
+    constexpr std::size_t maxNamed = 5;
+    std::string numbers;
+    for (std::size_t i = 0; i < std::min(records.size(), maxNamed); ++i)
+        numbers += (i == 0 ? "" : ", ") + std::to_string(records[i] + 1);
+    if (records.size() > maxNamed)
+        numbers += " and " + std::to_string(records.size() - maxNamed) + " more";
+    return numbers;
 }
 
 }  // namespace
@@ -61,8 +75,19 @@ std::string reasonFor(Refusal refusal, const Asked& asked)
         return file + " holds no table " + table + "." + chooseFile;
     case Refusal::TooLarge:
         return "The table " + table + " of " + file + " is too large to be read." + chooseFile;
+    case Refusal::Unconfined:
+        return file +
+               " is not read: this system cannot confine the program that reads data files. Type the figures, or start "
+               "Crewmark again and allow it.";
+    case Refusal::NoProc:
+        return file + " could not be read: this system has no /proc. Ask whoever looks after it, or type the figures.";
+    case Refusal::Changed:
+        return file + " was written to while it was read. Wait until it is saved, then choose it again.";
     case Refusal::Died:
         return file + " is damaged: reading its table " + table + " had to be given up." + useCopy;
+    case Refusal::Overstepped:
+        return "Reading the table " + table + " of " + file +
+               " was stopped: it tried more than reading. The file may be damaged, or made to do harm." + useCopy;
     case Refusal::TooSlow:
         return "Reading the table " + table + " of " + file + " took too long: the file may be damaged." + useCopy;
     case Refusal::NoProperAnswer:
@@ -78,8 +103,15 @@ std::string noticeFor(const Shortfall& shortfall)
     std::string notice;
     const auto add = [&notice](const std::string& sentence) { notice += (notice.empty() ? "" : " ") + sentence; };
 
+    if (shortfall.changed)
+        add("The file was written to while it was read: import again.");
+
     if (const std::string records = missingRecords(shortfall); !records.empty())
         add(records + ": it may be damaged.");
+
+    if (const auto& records = shortfall.recordsDamaged; !records.empty())
+        add((records.size() == 1 ? "Record " : "Records ") + numbered(records) +
+            (records.size() == 1 ? " is" : " are") + " damaged and shown empty.");
 
     if (shortfall.cellsUnreadable != 0)
         add(counted(shortfall.cellsUnreadable, "cell") + " could not be read and " +

@@ -1,4 +1,5 @@
 #include "store/reader/cell_text.h"
+#include "store/reader/utf16_text.h"
 
 #include <bit>
 #include <cstdint>
@@ -38,6 +39,13 @@ Stored decimal(bool negative, std::uint32_t a, std::uint32_t b, std::uint32_t c,
     for (const std::uint32_t group : {a, b, c, d})
         for (const unsigned char byte : low(group, 4))
             bytes.push_back(byte);
+    return bytes;
+}
+
+Stored ascii(const std::string& text)
+{
+    Stored bytes(text.begin(), text.end());
+    bytes.push_back(0);
     return bytes;
 }
 
@@ -137,10 +145,90 @@ INSTANTIATE_TEST_SUITE_P(Date, NumberText, testing::Values(
     Number{"NoNumber",      Kind::DateTime, real(std::numeric_limits<double>::quiet_NaN()), 0, NoValue}),
     [](const auto& tested) { return tested.param.name; });
 
+INSTANTIATE_TEST_SUITE_P(Big, NumberText, testing::Values(
+    Number{"BigMinusOne",   Kind::BigInteger, low(~std::uint64_t{0}, 8),      0, "-1"},
+    Number{"BigMost",       Kind::BigInteger, low(0x7FFFFFFFFFFFFFFF, 8),     0, "9223372036854775807"},
+    Number{"BigLeast",      Kind::BigInteger, low(0x8000000000000000, 8),     0, "-9223372036854775808"},
+    Number{"BigShort",      Kind::BigInteger, low(1, 4),                      0, NoValue}),
+    [](const auto& tested) { return tested.param.name; });
+
+// 2008-03-31: 2007 years x 365 + 501 leap days (2004 / 4) - 20 + 5 of whole centuries is day 733041, 2008-01-01;
+// + 31 in January + 29 in February + 30 in March. A second has 10,000,000 parts.
+INSTANTIATE_TEST_SUITE_P(Extended, NumberText, testing::Values(
+    Number{"ExtendedDate",  Kind::ExtendedDateTime, ascii("0000000000000733131:0000000000000000000:7"), 0, "2008-03-31"},
+    Number{"ExtendedTime",  Kind::ExtendedDateTime, ascii("0000000000000733131:0000000507090000000:7"), 0, "2008-03-31 14:05:09"},
+    Number{"ExtendedPart",  Kind::ExtendedDateTime, ascii("0000000000000733131:0000000507090000001:7"), 0, "2008-03-31 14:05:09.0000001"},
+    Number{"ExtendedHalf",  Kind::ExtendedDateTime, ascii("0000000000000733131:0000000000005000000:7"), 0, "2008-03-31 00:00:00.5"},
+    Number{"ExtendedFirst", Kind::ExtendedDateTime, ascii("0000000000000000000:0000000000000000000:7"), 0, "0001-01-01"},
+    Number{"ExtendedLast",  Kind::ExtendedDateTime, ascii("0000000000003652058:0000000863999999999:7"), 0, "9999-12-31 23:59:59.9999999"},
+    Number{"ExtendedAfter", Kind::ExtendedDateTime, ascii("0000000000003652059:0000000000000000000:7"), 0, NoValue},
+    Number{"ExtendedNight", Kind::ExtendedDateTime, ascii("0000000000000733131:0000000864000000000:7"), 0, NoValue},
+    Number{"ExtendedHuge",  Kind::ExtendedDateTime, ascii("9999999999999999999:0000000000000000000:7"), 0, NoValue},
+    Number{"ExtendedMinus", Kind::ExtendedDateTime, ascii("-000000000000000001:0000000000000000000:7"), 0, NoValue},
+    Number{"ExtendedColon", Kind::ExtendedDateTime, ascii("0000000000000733131;0000000000000000000:7"), 0, NoValue},
+    Number{"ExtendedDigits", Kind::ExtendedDateTime, ascii("0000000000000733131:00000000000000000 0:7"), 0, NoValue},
+    Number{"ExtendedSix",   Kind::ExtendedDateTime, ascii("0000000000000733131:0000000000000000000:6"), 0, NoValue},
+    Number{"ExtendedShort", Kind::ExtendedDateTime, ascii("0000000000000733131"),                       0, NoValue}),
+    [](const auto& tested) { return tested.param.name; });
+
 INSTANTIATE_TEST_SUITE_P(NoNumbers, NumberText, testing::Values(
     Number{"Text",          Kind::Text,     {},                               0, NoValue},
     Number{"Memo",          Kind::Memo,     {},                               0, NoValue},
     Number{"YesNo",         Kind::YesNo,    {},                               0, NoValue}),
+    [](const auto& tested) { return tested.param.name; });
+
+/// A calculated value as it is stored: 16 bytes of no meaning here, its length, itself, 3 bytes more.
+Stored calculated(const Stored& value)
+{
+    Stored bytes(16, 0xAA);
+    for (const unsigned char byte : low(value.size(), 4))
+        bytes.push_back(byte);
+    bytes.insert(bytes.end(), value.begin(), value.end());
+    bytes.insert(bytes.end(), 3, 0);
+    return bytes;
+}
+
+struct Result {
+    const char* name;
+    Kind kind;
+    Stored stored;
+    const char* text;
+};
+
+class CalculatedText : public testing::TestWithParam<Result> {};
+
+TEST_P(CalculatedText, IsThatOfTheValueInside)
+{
+    const Result& tested = GetParam();
+    std::string text = "before|";
+    const std::optional<Bytes> value = calculatedValue(tested.stored);
+    const bool isValue = value && appendCalculated(text, tested.kind, *value);
+    EXPECT_EQ(isValue ? text : text + NoValue, std::string("before|") + tested.text);
+}
+
+// Of a Decimal: length, decimals, sign, then digits by fours of bytes, the highest ones first; of a pair of fours the
+// lower one comes first.
+INSTANTIATE_TEST_SUITE_P(Values, CalculatedText, testing::Values(
+    Result{"Double",       Kind::Double,   calculated(real(12.5)),            "12.5"},
+    Result{"Long",         Kind::Long,     calculated(low(0xFFFFFFFF, 4)),    "-1"},
+    Result{"Currency",     Kind::Currency, calculated(low(125'000, 8)),       "12.5"},
+    Result{"Date",         Kind::DateTime, calculated(real(Day)),             "2008-03-31"},
+    Result{"Byte",         Kind::Byte,     calculated({255}),                 "255"},
+    Result{"Yes",          Kind::YesNo,    calculated({0xFF}),                "True"},
+    Result{"No",           Kind::YesNo,    calculated({0}),                   "False"},
+    Result{"YesAsInteger", Kind::Integer,  calculated({0xFF}),                "True"},
+    Result{"YesTooLong",   Kind::YesNo,    calculated({0xFF, 0xFF}),          NoValue},
+    Result{"DoubleShort",  Kind::Double,   calculated(low(0, 7)),             NoValue},
+    Result{"Decimal1",     Kind::Decimal,  calculated({6, 0,  2, 0,  125, 0, 0, 0}),                                   "1.25"},
+    Result{"DecimalMinus", Kind::Decimal,  calculated({6, 0,  2, 1,  125, 0, 0, 0}),                                   "-1.25"},
+    Result{"Decimal2",     Kind::Decimal,  calculated({10, 0, 0, 0,  5, 0, 0, 0, 1, 0, 0, 0}),                         "4294967301"},  // 2^32 + 5
+    Result{"Decimal3",     Kind::Decimal,  calculated({14, 0, 0, 0,  0, 0, 0, 0, 5, 0, 0, 0, 1, 0, 0, 0}),             "4294967301"},
+    Result{"Decimal3High", Kind::Decimal,  calculated({14, 0, 0, 0,  1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}),             "18446744073709551616"},  // 2^64
+    Result{"Decimal4",     Kind::Decimal,  calculated({18, 0, 0, 0,  0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}), "79228162514264337593543950336"},  // 2^96
+    Result{"DecimalScale", Kind::Decimal,  calculated({6, 0, 29, 0,  125, 0, 0, 0}),                                   NoValue},
+    Result{"DecimalShort", Kind::Decimal,  calculated({6, 0,  2, 0}),         NoValue},
+    Result{"NoLength",     Kind::Double,   Stored(19),                        NoValue},
+    Result{"TooLong",      Kind::Double,   Stored(40, 0xAA),                  NoValue}),
     [](const auto& tested) { return tested.param.name; });
 
 struct Words {

@@ -2,20 +2,25 @@
 
 #include "store/reader/confine.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
+#include <random>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
 #include <linux/landlock.h>
+#include <seccomp.h>
+#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
-#include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -25,13 +30,18 @@
 namespace store {
 namespace {
 
+enum class Confinement { Limits, Files, Calls };  // each with those before
+
 /// Status in which a child ends that confines itself and then does `deed`; its exit code is what `deed` returns.
-int statusAfter(const std::function<int()>& deed)
+int statusAfter(const std::function<int()>& deed, Confinement confinement = Confinement::Calls)
 {
     const pid_t child = fork();
     if (child == 0) {
         limitResources();
-        shutDoors();
+        if (confinement >= Confinement::Files)
+            shutFiles();
+        if (confinement == Confinement::Calls && !allowReadingAlone())
+            _exit(77);
         _exit(deed());
     }
     int status = -1;
@@ -39,10 +49,25 @@ int statusAfter(const std::function<int()>& deed)
     return status;
 }
 
+/// The system has ended the child at its call.
+bool isEnded(int status)
+{
+    return WIFSIGNALED(status) && WTERMSIG(status) == SIGSYS;
+}
+
+template <typename... Arguments>
+bool isEndedAt(long call, Arguments... arguments)
+{
+    return isEnded(statusAfter([&] {
+        syscall(call, arguments...);
+        return 0;
+    }));
+}
+
 /// 0 if the call was refused.
 int refused(long result)
 {
-    return result < 0 && (errno == EPERM || errno == EACCES) ? 0 : 1;
+    return result < 0 && errno == EACCES ? 0 : 1;
 }
 
 bool hasLandlock()
@@ -50,9 +75,210 @@ bool hasLandlock()
     return syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION) >= 1;
 }
 
-bool hasSystemCallFilter()
+/// Number of a system call on this processor; below 0 if the library, which is older than the call, has none for it.
+int numberOf(const char* call)
 {
-    return prctl(PR_GET_SECCOMP) >= 0;
+    return seccomp_syscall_resolve_name(call);
+}
+
+/// The tests of the filter say nothing where the kernel has none.
+class SystemCalls : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (prctl(PR_GET_SECCOMP) < 0)
+            GTEST_SKIP() << "this kernel has no filter of system calls";
+    }
+};
+
+TEST_F(SystemCalls, FilesThatAreOpenAreReadOn)
+{
+    const int file = open("/proc/self/exe", O_RDONLY | O_CLOEXEC);
+    ASSERT_GE(file, 0);
+    const auto readOn = [file] {
+        char bytes[4] = {};
+        struct stat about {};
+        const std::string memory(std::size_t{1} << 20, 'x');
+        void* const block = realloc(malloc(std::size_t{1} << 20), std::size_t{2} << 20);
+        const bool isRead = read(file, bytes, 4) == 4 && lseek(file, 0, SEEK_SET) == 0;
+        return isRead && fstat(file, &about) == 0 && memory.back() == 'x' && block != nullptr ? 0 : 1;
+    };
+    EXPECT_EQ(statusAfter(readOn), 0);
+    close(file);
+}
+
+TEST_F(SystemCalls, AnExceptionIsCaught)
+{
+    EXPECT_EQ(statusAfter([] {
+                  try {
+                      throw std::bad_alloc();
+                  } catch (const std::exception&) {
+                      return 0;
+                  }
+              }),
+              0);
+}
+
+TEST_F(SystemCalls, NoProgramIsStartedAndNoConnectionMade)
+{
+    EXPECT_TRUE(isEnded(statusAfter([] { return fork(); })));
+    EXPECT_TRUE(isEnded(statusAfter([] { return execl("/bin/true", "true", nullptr); })));
+    EXPECT_TRUE(isEndedAt(SYS_socket, 2, 1, 0));
+    EXPECT_TRUE(isEndedAt(SYS_socket, 1, 1, 0));
+#if defined(__x86_64__)
+    constexpr long secondSet = 0x40000000;  // of numbers, for programs with short addresses
+    EXPECT_TRUE(isEndedAt(secondSet | SYS_getpid));
+    EXPECT_TRUE(isEndedAt(secondSet | SYS_read, 0, nullptr, 0));
+#endif
+}
+
+// A reader that a file has taken over could end the program, with all that stands on its screens.
+TEST_F(SystemCalls, TheProgramThatStartedItIsLeftAlone)
+{
+    siginfo_t queued{};
+    queued.si_code = SI_QUEUE;
+    const rlimit none{};
+    EXPECT_TRUE(isEndedAt(SYS_kill, getppid(), 0));
+    EXPECT_TRUE(isEndedAt(SYS_tkill, getppid(), 0));
+    EXPECT_TRUE(isEndedAt(SYS_tgkill, getppid(), getppid(), 0));
+    EXPECT_TRUE(isEndedAt(SYS_rt_sigqueueinfo, getppid(), 0, &queued));
+    EXPECT_TRUE(isEndedAt(SYS_rt_tgsigqueueinfo, getppid(), getppid(), 0, &queued));
+    EXPECT_TRUE(isEndedAt(SYS_pidfd_send_signal, -1, 0, nullptr, 0));
+    EXPECT_TRUE(isEndedAt(SYS_prlimit64, getppid(), RLIMIT_FSIZE, nullptr, nullptr));
+    EXPECT_TRUE(isEndedAt(SYS_prlimit64, getppid(), RLIMIT_CPU, &none, nullptr));
+    EXPECT_TRUE(isEndedAt(SYS_ptrace, 16, getppid(), nullptr, nullptr));
+    EXPECT_TRUE(isEndedAt(SYS_setpriority, PRIO_PROCESS, getppid(), 19));
+    EXPECT_EQ(getpriority(PRIO_PROCESS, 0), 0) << "or this test was started with another priority";
+}
+
+// Bytes that arrive in a pipe would have sent the program the signal that ends it.
+TEST_F(SystemCalls, NoSignalIsBookedForThatProgram)
+{
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(::pipe(pipe.data()), 0);
+    constexpr int setSignal = 10;  // F_SETSIG
+    EXPECT_TRUE(isEndedAt(SYS_fcntl, pipe[0], F_SETOWN, getppid()));
+    EXPECT_TRUE(isEndedAt(SYS_fcntl, pipe[0], setSignal, SIGKILL));
+    EXPECT_TRUE(isEndedAt(SYS_fcntl, pipe[0], F_SETFL, O_ASYNC));
+    constexpr int setOwner = 0x8901;  // FIOSETOWN
+    const int owner = getppid();
+    EXPECT_TRUE(isEndedAt(SYS_ioctl, pipe[0], setOwner, &owner));
+    EXPECT_EQ(fcntl(pipe[0], F_GETOWN), 0);
+    close(pipe[0]);
+    close(pipe[1]);
+}
+
+TEST_F(SystemCalls, TheUsersFilesStayAsTheyAre)
+{
+    const Folder folder;
+    const std::string path = folder.path() / "file.mdb";
+    std::ofstream(path) << "text";
+    struct stat before {};
+    ASSERT_EQ(stat(path.c_str(), &before), 0);
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+
+    EXPECT_TRUE(isEndedAt(SYS_fchmod, file, 0));
+    EXPECT_TRUE(isEndedAt(SYS_fchmodat, AT_FDCWD, path.c_str(), 0));
+    EXPECT_TRUE(isEndedAt(SYS_fchown, file, 1, 1));
+    EXPECT_TRUE(isEndedAt(SYS_fchownat, AT_FDCWD, path.c_str(), 1, 1, 0));
+    EXPECT_TRUE(isEndedAt(SYS_utimensat, AT_FDCWD, path.c_str(), nullptr, 0));
+    EXPECT_TRUE(isEndedAt(SYS_setxattr, path.c_str(), "user.x", "x", 1, 0));
+    EXPECT_TRUE(isEndedAt(SYS_fsetxattr, file, "user.x", "x", 1, 0));
+    EXPECT_TRUE(isEndedAt(SYS_flock, file, 2));
+    EXPECT_TRUE(isEndedAt(SYS_truncate, path.c_str(), 0));
+    EXPECT_TRUE(isEndedAt(SYS_openat, AT_FDCWD, path.c_str(), O_RDONLY));
+    EXPECT_TRUE(isEndedAt(SYS_unlinkat, AT_FDCWD, path.c_str(), 0));
+#if defined(SYS_chmod)  // the older calls, which not every processor has
+    EXPECT_TRUE(isEndedAt(SYS_chmod, path.c_str(), 0));
+    EXPECT_TRUE(isEndedAt(SYS_open, path.c_str(), O_RDONLY));
+    EXPECT_TRUE(isEndedAt(SYS_unlink, path.c_str()));
+#endif
+
+    struct stat after {};
+    ASSERT_EQ(stat(path.c_str(), &after), 0);
+    EXPECT_EQ(after.st_mode, before.st_mode);
+    EXPECT_EQ(after.st_ctim.tv_sec, before.st_ctim.tv_sec);
+    EXPECT_EQ(after.st_ctim.tv_nsec, before.st_ctim.tv_nsec);
+    EXPECT_EQ(bytesOf(path), "text");
+    close(file);
+}
+
+TEST_F(SystemCalls, NoFileIsLookedUpByItsName)
+{
+    struct stat about {};
+    // The C library's fstat goes through this call in some of its versions, with a name that is empty.
+    if (const int call = numberOf("newfstatat"); call >= 0) {
+        EXPECT_TRUE(isEndedAt(call, AT_FDCWD, "/etc/passwd", &about, 0));
+    }
+    EXPECT_TRUE(isEndedAt(SYS_statx, AT_FDCWD, "/etc/passwd", 0, 0, nullptr));
+}
+
+TEST_F(SystemCalls, NoCodeIsAdded)
+{
+    EXPECT_TRUE(isEnded(statusAfter([] {
+        mmap(nullptr, 4096, PROT_READ | PROT_EXEC, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        return 0;
+    })));
+    EXPECT_TRUE(isEndedAt(SYS_mprotect, nullptr, 0, PROT_EXEC));
+}
+
+TEST_F(SystemCalls, ItCannotSlipAway)
+{
+    EXPECT_TRUE(isEndedAt(SYS_setpgid, 0, getpgrp()));
+    EXPECT_TRUE(isEndedAt(SYS_setsid));
+    EXPECT_TRUE(isEndedAt(SYS_prctl, PR_SET_PDEATHSIG, 0));
+    EXPECT_TRUE(isEndedAt(SYS_unshare, 0x10000000));  // CLONE_NEWUSER
+    EXPECT_TRUE(isEndedAt(SYS_shmget, 0, 4096, 0600));
+    EXPECT_TRUE(isEndedAt(SYS_shmat, 0, nullptr, 0));
+    EXPECT_TRUE(isEndedAt(SYS_memfd_create, "x", 0));
+    EXPECT_TRUE(isEndedAt(SYS_rt_sigaction, SIGTERM, nullptr, nullptr, 8));
+    for (const char* const name : {"userfaultfd", "io_uring_setup", "bpf", "pidfd_getfd", "process_vm_writev", "setns"})
+        if (const int call = numberOf(name); call >= 0) {
+            EXPECT_TRUE(isEndedAt(call, 0, 0, 0, 0)) << name;
+        }
+}
+
+TEST_F(SystemCalls, AnyOtherEndsIt)
+{
+    const std::vector<const char*> used
+    {
+        "read", "lseek", "fstat", "brk", "mmap", "munmap", "mremap", "futex", "exit_group",
+#if defined(__SANITIZE_ADDRESS__)
+            "madvise", "sched_yield", "getpid", "gettid"
+#endif
+    };
+    const auto isUsed = [&used](int call) {
+#if defined(__x86_64__)
+        if (call == 335 || call == 336)  // ways back into the kernel's own probes, which pass by every filter
+            return true;
+#endif
+        return std::any_of(used.begin(), used.end(), [call](const char* name) { return numberOf(name) == call; });
+    };
+    std::mt19937 random(1951);
+    for (int tried = 0; tried < 100;) {
+        const int call = static_cast<int>(random() % 500);  // some 460 are known, in Debian 12 and in 13
+        if (isUsed(call))
+            continue;
+        EXPECT_TRUE(isEndedAt(call, 0, 0, 0, 0, 0, 0)) << "system call " << call;
+        ++tried;
+    }
+}
+
+// The system of the test cannot be without the filter, so it is made to look like that.
+TEST_F(SystemCalls, WithoutAFilterItIsTold)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ALLOW);
+        seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(seccomp), 0);
+        seccomp_rule_add(filter, SCMP_ACT_ERRNO(EINVAL), SCMP_SYS(prctl), 1, SCMP_A0(SCMP_CMP_EQ, PR_SET_SECCOMP));
+        if (seccomp_load(filter) != 0)
+            _exit(77);
+        _exit(allowReadingAlone() ? 1 : 0);
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
 }
 
 TEST(Confine, NoFileIsOpenedMadeOrRemoved)
@@ -63,65 +289,20 @@ TEST(Confine, NoFileIsOpenedMadeOrRemoved)
     const std::string there = folder.path() / "there";
     const std::string made = folder.path() / "made";
     std::ofstream(there) << "text";
+    const auto isRefused = [](const std::function<long()>& call) {
+        return statusAfter([&] { return refused(call()); }, Confinement::Files) == 0;
+    };
 
-    EXPECT_EQ(statusAfter([&] { return refused(open(there.c_str(), O_RDONLY)); }), 0);
-    EXPECT_EQ(statusAfter([&] { return refused(open(there.c_str(), O_WRONLY)); }), 0);
-    EXPECT_EQ(statusAfter([&] { return refused(open(folder.path().c_str(), O_RDONLY | O_DIRECTORY)); }), 0);
-    EXPECT_EQ(statusAfter([&] { return refused(open(made.c_str(), O_WRONLY | O_CREAT, 0600)); }), 0);
-    EXPECT_EQ(statusAfter([&] { return refused(mkdir(made.c_str(), 0700)); }), 0);
-    EXPECT_EQ(statusAfter([&] { return refused(symlink("there", made.c_str())); }), 0);
-    EXPECT_EQ(statusAfter([&] { return refused(unlink(there.c_str())); }), 0);
-    EXPECT_EQ(statusAfter([&] { return refused(truncate(there.c_str(), 0)); }), 0);
+    EXPECT_TRUE(isRefused([&] { return open(there.c_str(), O_RDONLY); }));
+    EXPECT_TRUE(isRefused([&] { return open(there.c_str(), O_WRONLY); }));
+    EXPECT_TRUE(isRefused([&] { return open(folder.path().c_str(), O_RDONLY | O_DIRECTORY); }));
+    EXPECT_TRUE(isRefused([&] { return open(made.c_str(), O_WRONLY | O_CREAT, 0600); }));
+    EXPECT_TRUE(isRefused([&] { return mkdir(made.c_str(), 0700); }));
+    EXPECT_TRUE(isRefused([&] { return symlink("there", made.c_str()); }));
+    EXPECT_TRUE(isRefused([&] { return unlink(there.c_str()); }));
 
     EXPECT_EQ(bytesOf(there), "text");
     EXPECT_FALSE(std::filesystem::exists(std::filesystem::symlink_status(made)));
-}
-
-TEST(Confine, NoProgramIsStartedAndNoConnectionMade)
-{
-    if (!hasSystemCallFilter())
-        GTEST_SKIP() << "this kernel has no filter of system calls";
-    EXPECT_EQ(statusAfter([] { return refused(fork()); }), 0);
-    EXPECT_EQ(statusAfter([] { return refused(execl("/bin/true", "true", nullptr)); }), 0);
-    EXPECT_EQ(statusAfter([] { return refused(socket(AF_INET, SOCK_STREAM, 0)); }), 0);
-    EXPECT_EQ(statusAfter([] { return refused(socket(AF_UNIX, SOCK_STREAM, 0)); }), 0);
-#if defined(__x86_64__)
-    constexpr long secondSet = 0x40000000;
-    EXPECT_EQ(statusAfter([] { return refused(syscall(secondSet | SYS_getpid)); }), 0);
-#endif
-}
-
-// A reader that a file has taken over could end the program, with all that stands on its screens.
-TEST(Confine, TheProgramThatStartedItIsLeftAlone)
-{
-    if (!hasSystemCallFilter())
-        GTEST_SKIP() << "this kernel has no filter of system calls";
-    siginfo_t queued{};
-    queued.si_code = SI_QUEUE;
-    const rlimit none{};
-    EXPECT_EQ(statusAfter([] { return refused(kill(getppid(), 0)); }), 0);
-    EXPECT_EQ(statusAfter([] { return refused(syscall(SYS_tkill, getppid(), 0)); }), 0);
-    EXPECT_EQ(statusAfter([] { return refused(syscall(SYS_tgkill, getppid(), getppid(), 0)); }), 0);
-    EXPECT_EQ(statusAfter([&] { return refused(syscall(SYS_rt_sigqueueinfo, getppid(), 0, &queued)); }), 0);
-    EXPECT_EQ(statusAfter([&] { return refused(syscall(SYS_rt_tgsigqueueinfo, getppid(), getppid(), 0, &queued)); }),
-              0);
-    EXPECT_EQ(statusAfter([&] { return refused(prlimit(getppid(), RLIMIT_FSIZE, nullptr, nullptr)); }), 0);
-    EXPECT_EQ(statusAfter([&] { return refused(prlimit(getppid(), RLIMIT_CPU, &none, nullptr)); }), 0);
-    // Without the filter this would fail for the file, which does not exist.
-    EXPECT_EQ(statusAfter([] { return refused(syscall(SYS_pidfd_send_signal, -1, 0, nullptr, 0)); }), 0);
-}
-
-TEST(Confine, FilesThatAreOpenAreReadOn)
-{
-    const int file = open("/proc/self/exe", O_RDONLY | O_CLOEXEC);
-    ASSERT_GE(file, 0);
-    const auto readOn = [file] {
-        char bytes[4] = {};
-        const std::string memory(std::size_t{1} << 20, 'x');
-        return read(file, bytes, 4) == 4 && lseek(file, 0, SEEK_SET) == 0 && memory.back() == 'x' ? 0 : 1;
-    };
-    EXPECT_EQ(statusAfter(readOn), 0);
-    close(file);
 }
 
 TEST(Confine, NothingIsWrittenToAFile)
@@ -130,9 +311,12 @@ TEST(Confine, NothingIsWrittenToAFile)
     const std::string path = folder.path() / "file";
     const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
     ASSERT_GE(file, 0);
-    const int status = statusAfter([file] { return static_cast<int>(write(file, "x", 1)); });
+    const auto writeTo = [file] { return static_cast<int>(write(file, "x", 1)); };
+    const int limited = statusAfter(writeTo, Confinement::Limits);
+    const int confined = statusAfter(writeTo);
     close(file);
-    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ) << status;
+    EXPECT_TRUE(WIFSIGNALED(limited) && WTERMSIG(limited) == SIGXFSZ) << limited;
+    EXPECT_TRUE(isEnded(confined)) << confined;
     EXPECT_EQ(bytesOf(path), "");
 }
 
@@ -158,8 +342,10 @@ TEST(Confine, MemoryEnds)
 
 TEST(Confine, NoCoreIsDumpedAndNoRightsAreGained)
 {
-    EXPECT_EQ(statusAfter([] { return prctl(PR_GET_DUMPABLE); }), 0);
-    EXPECT_EQ(statusAfter([] { return prctl(PR_GET_NO_NEW_PRIVS, 0, 0, 0, 0) == 1 ? 0 : 1; }), 0);
+    const auto dumpable = [] { return prctl(PR_GET_DUMPABLE); };
+    const auto gainsRights = [] { return prctl(PR_GET_NO_NEW_PRIVS, 0, 0, 0, 0) == 1 ? 0 : 1; };
+    EXPECT_EQ(statusAfter(dumpable, Confinement::Limits), 0);
+    EXPECT_EQ(statusAfter(gainsRights, Confinement::Limits), 0);
 }
 
 }  // namespace

@@ -1,9 +1,11 @@
 // Whatever lies where the data file should be, and however it is called.
 
+#include <atomic>
 #include <chrono>
 #include <climits>
 #include <cstdlib>
 #include <fstream>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -202,6 +204,65 @@ TEST(DataFilePath, AFileThatMayNotBeReadSaysSo)
     }
     std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
     EXPECT_EQ(inClosedFolder.reason, unreadable.reason);
+}
+
+/// For as long as this lives the file's time of change does not stand still: at least now and then, on a busy machine.
+class Touching {
+public:
+    explicit Touching(std::filesystem::path path)
+        : m_thread([this, path = std::move(path)] {
+              for (auto time = std::filesystem::file_time_type::clock::now(); !m_done; time += std::chrono::seconds(1))
+                  std::filesystem::last_write_time(path, time);
+          })
+    {
+    }
+    ~Touching()
+    {
+        m_done = true;
+        m_thread.join();
+    }
+    Touching(const Touching&) = delete;
+    Touching& operator=(const Touching&) = delete;
+
+private:
+    std::atomic<bool> m_done = false;
+    std::thread m_thread;
+};
+
+/// What is said of a file that is touched all the time, and that said `before` as long as it was left alone.
+Reading readWhileTouched(const std::filesystem::path& path, const std::string& before)
+{
+    const Touching touching(path);
+    for (int tries = 0; tries < 100; ++tries)
+        if (Reading reading = DataFile().read(path, "TR"); reading.reason + reading.notice != before)
+            return reading;
+    return DataFile().read(path, "TR");
+}
+
+TEST(DataFilePath, AFileThatIsWrittenToWhileItIsReadSaysSo)
+{
+    const Folder folder;
+    const std::filesystem::path path = folder.path() / "file.mdb";
+    std::ofstream(path, std::ios::binary) << bytesOf(dataFile("many-records.mdb"));
+    EXPECT_EQ(DataFile().read(path, "TR").notice, "");
+    EXPECT_FALSE(DataFile().read(path, "TR").isStale);
+    const Reading reading = readWhileTouched(path, "");
+    EXPECT_EQ(reading.reason, "");
+    EXPECT_EQ(reading.notice, "The file was written to while it was read: import again.");
+    EXPECT_TRUE(reading.isStale);
+    EXPECT_EQ(reading.table.rows(), 20001);
+    EXPECT_EQ(DataFile().read(path, "TR").notice, "");
+}
+
+TEST(DataFilePath, AFileThatCannotBeReadWhileItIsWrittenToIsNotCalledDamaged)
+{
+    const Folder folder;
+    const std::filesystem::path path = folder.path() / "file.mdb";
+    std::ofstream(path, std::ios::binary) << bytesOf(dataFile("damaged-endless.mdb"));
+    const std::string damaged = DataFile().read(path, "TR").reason;
+    EXPECT_TRUE(damaged.starts_with("\"file.mdb\" is damaged")) << damaged;
+    EXPECT_EQ(readWhileTouched(path, damaged).reason,
+              "\"file.mdb\" was written to while it was read. Wait until it is saved, then choose it again.");
 }
 
 TEST(DataFilePath, AFileThatChangesMeanwhileIsReadOrRefused)

@@ -1,17 +1,23 @@
 // What becomes of the program when its reader misbehaves: a plain reason, before long, and nothing left behind.
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <thread>
 
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <sched.h>
+#include <seccomp.h>
+#include <sys/mount.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -54,6 +60,7 @@ bool isGone(const std::string& process)
 const std::string Damaged =    R"("x.mdb" is damaged: reading its table "HOW" had to be given up. Use another copy of the file, or type the figures.)";
 const std::string TooSlow =    R"(Reading the table "HOW" of "x.mdb" took too long: the file may be damaged. Use another copy of the file, or type the figures.)";
 const std::string TooLarge =   R"(The table "HOW" of "x.mdb" is too large to be read. Choose the .mdb file of the Sr SE.)";
+const std::string Overstepped = R"(Reading the table "HOW" of "x.mdb" was stopped: it tried more than reading. The file may be damaged, or made to do harm. Use another copy of the file, or type the figures.)";
 const std::string NoAnswer =   R"("x.mdb" could not be read: the program that reads data files gave no proper answer. Install Crewmark again.)";
 const std::string NotStarted = R"("x.mdb" could not be read: the program that reads data files could not be started. Install Crewmark again.)";
 // clang-format on
@@ -87,6 +94,8 @@ TEST_P(MisbehavingReader, EndsInAPlainReason)
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Ways, MisbehavingReader, testing::Values(
+    Misbehaviour{"crash at once",   NotStarted},  // before its greeting: no file is to blame
+    Misbehaviour{"overstep",        Overstepped},
     Misbehaviour{"crash",           Damaged},
     Misbehaviour{"abort",           Damaged},
     Misbehaviour{"crash after all", Damaged},
@@ -120,20 +129,23 @@ TEST(ReaderProcess, AGoodAnswerIsTakenByteByByte)
     }
 }
 
-TEST(ReaderProcess, WhatItStartedIsStoppedWithIt)
+TEST(ReaderProcess, NothingOfItGoesOn)
 {
-    const Folder folder;
-    const std::filesystem::path note = folder.path() / "x.mdb";
-    const Clock::time_point start = Clock::now();
-    const Reading reading = DataFile(StandIn, Deadline).read(note, "leave child");
-    EXPECT_LT(Clock::now() - start, Deadline + Patience);
-    EXPECT_NE(reading.reason, "");  // the output was never closed
+    for (const char* const how : {"leave child", "leave group"}) {
+        const Folder folder;
+        const std::filesystem::path note = folder.path() / "x.mdb";
+        const Clock::time_point start = Clock::now();
+        const Reading reading = DataFile(StandIn, Deadline).read(note, how);
+        EXPECT_LT(Clock::now() - start, Deadline + Patience) << how;
+        EXPECT_NE(reading.reason, "") << how;  // the output was never closed
+        expectNoChildren();
 
-    const std::string child = bytesOf(note);
-    ASSERT_FALSE(child.empty());
-    for (int i = 0; i < 100 && !isGone(child); ++i)
-        std::this_thread::sleep_for(milliseconds(10));
-    EXPECT_TRUE(isGone(child)) << "process " << child;
+        const std::string process = bytesOf(note);
+        ASSERT_FALSE(process.empty()) << how;
+        for (int i = 0; i < 100 && !isGone(process); ++i)
+            std::this_thread::sleep_for(milliseconds(10));
+        EXPECT_TRUE(isGone(process)) << how << ": process " << process;
+    }
 }
 
 TEST(ReaderProcess, ThereIsNoSuchProgram)
@@ -153,6 +165,112 @@ TEST(ReaderProcess, ThereIsNoSuchProgram)
         EXPECT_EQ(openFiles(), filesBefore) << reader;
         expectNoChildren();
     }
+}
+
+// A copy of the reader that broke off, was overwritten, or has lost its right to be executed.
+TEST(ReaderProcess, ABrokenProgramIsNotTheFilesFault)
+{
+    const std::string good = bytesOf(DataFile::installedReader());
+    const Folder folder;
+    std::string zeroed = good;
+    std::fill(zeroed.begin() + 4096, zeroed.end(), '\0');
+    const struct {
+        const char* name;
+        std::string bytes;
+        bool isExecutable;
+    } readers[] = {
+        {"cut in its header", good.substr(0, 40), true},
+        {"cut behind its header", good.substr(0, 4096), true},
+        {"zeroed", zeroed, true},
+        {"not executable", good, false},
+    };
+    for (const auto& [name, bytes, isExecutable] : readers) {
+        const std::filesystem::path reader = folder.path() / name;
+        std::ofstream(reader, std::ios::binary) << bytes;
+        if (isExecutable)
+            std::filesystem::permissions(reader, std::filesystem::perms::owner_all);
+        EXPECT_EQ(DataFile(reader).read("/folder/x.mdb", "TR").reason, NotStarted) << name;
+    }
+}
+
+/// What `read` gives in a process that first does `before`, or nothing where that cannot be done. Each text stands on a
+/// line of its own.
+std::string readingAfter(const std::function<bool()>& before, const std::function<std::string()>& read)
+{
+    std::array<int, 2> ends{};
+    if (pipe(ends.data()) != 0)
+        return "";
+    const pid_t child = fork();
+    if (child == 0) {
+        const std::string said = before() ? read() : "";
+        _exit(write(ends[1], said.data(), said.size()) < 0 ? 1 : 0);
+    }
+    close(ends[1]);
+    std::string said(4096, '\0');
+    said.resize(static_cast<std::size_t>(std::max<ssize_t>(::read(ends[0], said.data(), said.size()), 0)));
+    close(ends[0]);
+    waitpid(child, nullptr, 0);
+    return said;
+}
+
+bool takeAwayProc()
+{
+    return unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           mount("none", "/proc", "tmpfs", 0, nullptr) == 0;
+}
+
+TEST(ReaderProcess, WithoutProcTheSystemIsToBlame)
+{
+    const std::filesystem::path reader = DataFile::installedReader();
+    const std::string said = readingAfter(takeAwayProc, [&reader] {
+        return DataFile(reader).read(sample("1-ambapur.mdb"), "TR").reason + '\n' +
+               DataFile().read(sample("1-ambapur.mdb"), "TR").reason;  // whose reader cannot even be found
+    });
+    if (said.empty())
+        GTEST_SKIP() << "nobody here who may take /proc away";
+    const std::string reason = "\"1-ambapur.mdb\" could not be read: this system has no /proc. Ask whoever looks after "
+                               "it, or type the figures.";
+    EXPECT_EQ(said, reason + '\n' + reason);
+}
+
+/// From here on this process and those that it starts have a system without a filter of system calls.
+bool takeAwaySystemCallFilter()
+{
+    const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ALLOW);
+    return seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(seccomp), 0) == 0 &&
+           seccomp_rule_add(filter, SCMP_ACT_ERRNO(EINVAL), SCMP_SYS(prctl), 1, SCMP_A0(SCMP_CMP_EQ, PR_SET_SECCOMP)) ==
+               0 &&
+           seccomp_load(filter) == 0;
+}
+
+TEST(ReaderProcess, UnconfinedItReadsOnlyIfItIsAllowedTo)
+{
+    const std::string said = readingAfter(takeAwaySystemCallFilter, [] {
+        DataFile dataFile;
+        const Reading refused = dataFile.read(sample("1-ambapur.mdb"), "TR");
+        dataFile.allowUnconfined();
+        const Reading allowed = dataFile.read(sample("1-ambapur.mdb"), "TR");
+        return refused.reason + (refused.isUnconfined ? "\nunconfined\n" : "\n") +
+               std::to_string(refused.table.rows()) + '\n' + allowed.reason +
+               (allowed.isUnconfined ? "unconfined\n" : "\n") + std::to_string(allowed.table.rows()) + '\n' +
+               dataFile.read("/nowhere/x.mdb", "TR").reason;
+    });
+    if (said.empty())
+        GTEST_SKIP() << "this kernel has no filter of system calls";
+    EXPECT_EQ(said,
+              "\"1-ambapur.mdb\" is not read: this system cannot confine the program that reads data files. Type the "
+              "figures, or start Crewmark again and allow it.\nunconfined\n0\n"
+              "\n6\n"  // headings + 5 segments
+              "There is no file \"x.mdb\". Choose the .mdb file of the Sr SE.");
+}
+
+TEST(ReaderProcess, WhereItCanBeConfinedAnAllowanceChangesNothing)
+{
+    DataFile dataFile;
+    dataFile.allowUnconfined();
+    const Reading reading = dataFile.read(sample("1-ambapur.mdb"), "TR");
+    EXPECT_EQ(reading.reason + reading.notice, "");
+    EXPECT_EQ(gridOf(reading.table), expectedGrid("1-ambapur", "TR"));
 }
 
 TEST(ReaderProcess, NothingIsPassedOnToIt)

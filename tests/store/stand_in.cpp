@@ -40,11 +40,24 @@ void write(const std::string& bytes)
     std::abort();
 }
 
+[[noreturn]] void greetAndDieBy(int signal)
+{
+    write(WireOutput().bytes());
+    dieBy(signal);
+}
+
 [[noreturn]] void flood()
 {
     const std::string piece(std::size_t{1} << 20, 'R');
     for (;;)
         write(piece);
+}
+
+void writeDown(pid_t process, const char* file)
+{
+    std::FILE* const out = std::fopen(file, "w");
+    std::fprintf(out, "%d", process);
+    std::fclose(out);
 }
 
 /// Leaves a process behind that keeps the output open, without its parent.
@@ -53,9 +66,16 @@ void leaveChild(const char* file)
     const pid_t child = fork();
     if (child == 0)
         hang();
-    std::FILE* const out = std::fopen(file, "w");
-    std::fprintf(out, "%d", child);
-    std::fclose(out);
+    writeDown(child, file);
+}
+
+/// Goes over to the group of the program that started it.
+[[noreturn]] void leaveGroup(const char* file)
+{
+    if (setpgid(0, getpgid(getppid())) != 0)
+        _exit(3);
+    writeDown(getpid(), file);
+    hang();
 }
 
 WireOutput good()
@@ -100,12 +120,16 @@ int main(int, char** arguments, char** environment)
             write(std::string(1, byte));
             std::this_thread::sleep_for(std::chrono::milliseconds(2));
         }
-    } else if (how == "crash")
+    } else if (how == "crash at once")
         dieBy(SIGSEGV);
+    else if (how == "crash")
+        greetAndDieBy(SIGSEGV);
     else if (how == "abort")
-        dieBy(SIGABRT);
+        greetAndDieBy(SIGABRT);
     else if (how == "out of time")
-        dieBy(SIGXCPU);
+        greetAndDieBy(SIGXCPU);
+    else if (how == "overstep")
+        greetAndDieBy(SIGSYS);
     else if (how == "crash after all") {
         write(good().bytes());
         dieBy(SIGSEGV);
@@ -143,7 +167,9 @@ int main(int, char** arguments, char** environment)
     else if (how == "leave child") {
         leaveChild(arguments[1]);
         write(good().bytes());
-    } else if (how != "silence")
+    } else if (how == "leave group")
+        leaveGroup(arguments[1]);
+    else if (how != "silence")
         return 2;
     return 0;
 }

@@ -47,17 +47,21 @@ public:
         return *this;
     }
     WireOutput& shortfall(std::uint32_t said, bool lost = false, bool endsInPage = false, std::uint32_t cells = 0,
-                          const std::vector<std::uint32_t>& columns = {})
+                          const std::vector<std::uint32_t>& columns = {},
+                          const std::vector<std::uint32_t>& records = {}, bool changed = false)
     {
-        raw("S").number(said);
-        m_bytes += lost ? '\1' : '\0';
-        m_bytes += endsInPage ? '\1' : '\0';
-        number(cells).number(static_cast<std::uint32_t>(columns.size()));
-        for (const std::uint32_t column : columns)
-            number(column);
+        raw("S").number(said).yesNo(lost).yesNo(endsInPage).yesNo(changed).number(cells);
+        return numbers(records).numbers(columns);
+    }
+    WireOutput& yesNo(bool value) { return raw(std::string_view(value ? "\1" : "\0", 1)); }
+    WireOutput& numbers(const std::vector<std::uint32_t>& list)
+    {
+        number(static_cast<std::uint32_t>(list.size()));
+        for (const std::uint32_t each : list)
+            number(each);
         return *this;
     }
-    WireOutput& refused(Refusal refusal)
+    WireOutput& failure(Refusal refusal)
     {
         m_bytes += 'X';
         m_bytes += static_cast<char>(refusal);

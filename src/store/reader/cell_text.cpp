@@ -40,8 +40,8 @@ bool appendCurrency(std::string& out, std::uint64_t stored)
 /// Sign, then four groups of 4 bytes, the highest group first, each low byte first.
 bool appendDecimal(std::string& out, Bytes stored, int scale)
 {
-    constexpr int mostDecimals = 28;
-    if (scale < 0 || scale > mostDecimals)
+    constexpr int maxDecimals = 28;
+    if (scale < 0 || scale > maxDecimals)
         return false;
     std::array<std::uint64_t, 4> groups{};
     for (std::size_t i = 0; i < groups.size(); ++i)
@@ -62,7 +62,7 @@ bool appendDecimal(std::string& out, Bytes stored, int scale)
 }
 
 template <typename Real>
-bool appendReal(std::string& out, Real value, int mostDigits)
+bool appendReal(std::string& out, Real value, int maxDigits)
 {
     if (!std::isfinite(value))
         return false;
@@ -70,45 +70,84 @@ bool appendReal(std::string& out, Real value, int mostDigits)
         value = 0;  // without a sign
     std::array<char, 32> text{};
     char* const end =
-        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, mostDigits).ptr;
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, maxDigits).ptr;
     out.append(text.data(), end);
     return true;
+}
+
+using std::chrono::days;
+using std::chrono::sys_days;
+constexpr long SecondsPerDay = 86'400;
+constexpr sys_days DayZero = std::chrono::year(1899) / 12 / 30;
+constexpr sys_days LastDay = std::chrono::year(9999) / 12 / 31;
+
+void appendDate(std::string& out, sys_days day)
+{
+    std::array<char, 32> text{};
+    const std::chrono::year_month_day date(day);
+    std::snprintf(text.data(), text.size(), "%04d-%02u-%02u", static_cast<int>(date.year()),
+                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
+    out += text.data();
+}
+
+void appendTime(std::string& out, long seconds)
+{
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%02ld:%02ld:%02ld", seconds / 3600, seconds / 60 % 60, seconds % 60);
+    out += text.data();
 }
 
 /// Whole days and a part of a day; the part counts forward also before day 0 (-1.25 is 1899-12-29 06:00).
 bool appendDateTime(std::string& out, double value)
 {
-    using std::chrono::days;
-    using std::chrono::sys_days;
-    constexpr sys_days dayZero = std::chrono::year(1899) / 12 / 30;
     constexpr sys_days first = std::chrono::year(100) / 1 / 1;
-    constexpr sys_days last = std::chrono::year(9999) / 12 / 31;
-    constexpr long secondsPerDay = 86'400;
-
-    if (!(value >= (first - dayZero).count() - 1 && value <= (last - dayZero).count() + 1))  // also not a number
+    if (!(value >= (first - DayZero).count() - 1 && value <= (LastDay - DayZero).count() + 1))  // also not a number
         return false;
     double whole = 0.0;
-    long seconds = std::lround(std::fabs(std::modf(value, &whole)) * secondsPerDay);
-    sys_days day = dayZero + days(std::lround(whole));
-    if (seconds == secondsPerDay) {
+    long seconds = std::lround(std::fabs(std::modf(value, &whole)) * SecondsPerDay);
+    sys_days day = DayZero + days(std::lround(whole));
+    if (seconds == SecondsPerDay) {
         day += days(1);
         seconds = 0;
     }
-    if (day < first || day > last)
+    if (day < first || day > LastDay)
         return false;
 
-    std::array<char, 32> text{};
-    if (day != dayZero) {
-        const std::chrono::year_month_day date(day);
-        std::snprintf(text.data(), text.size(), "%04d-%02u-%02u", static_cast<int>(date.year()),
-                      static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
-        out += text.data();
-    }
-    if (day == dayZero || seconds != 0) {
-        std::snprintf(text.data(), text.size(), "%s%02ld:%02ld:%02ld", day == dayZero ? "" : " ", seconds / 3600,
-                      seconds / 60 % 60, seconds % 60);
-        out += text.data();
-    }
+    if (day != DayZero)
+        appendDate(out, day);
+    if (day != DayZero && seconds != 0)
+        out += ' ';
+    if (day == DayZero || seconds != 0)
+        appendTime(out, seconds);
+    return true;
+}
+
+/// In ASCII: days from 0001-01-01 and tenths of microseconds in 19 digits each, the number of decimals of a second in
+/// one, each ended by a colon or, the last one, by a zero byte.
+bool appendExtendedDateTime(std::string& out, Bytes stored)
+{
+    constexpr std::uint64_t tenthsPerSecond = 10'000'000;
+    constexpr sys_days first = std::chrono::year(1) / 1 / 1;
+    const std::string_view text(reinterpret_cast<const char*>(stored.data()), stored.size());
+    const auto number = [text](std::size_t offset, std::uint64_t& value) {
+        const char* const end = text.data() + offset + 19;
+        const auto [stop, error] = std::from_chars(text.data() + offset, end, value);
+        return error == std::errc() && stop == end;
+    };
+    std::uint64_t day = 0;
+    std::uint64_t tenths = 0;
+    if (!number(0, day) || !number(20, tenths) || text[19] != ':' || text.substr(39) != std::string_view(":7\0", 3))
+        return false;
+    if (day > static_cast<std::uint64_t>((LastDay - first).count()) || tenths >= SecondsPerDay * tenthsPerSecond)
+        return false;
+
+    appendDate(out, first + days(static_cast<int>(day)));
+    if (tenths == 0)
+        return true;
+    out += ' ';
+    appendTime(out, static_cast<long>(tenths / tenthsPerSecond));
+    if (std::string part = std::to_string(tenthsPerSecond + tenths % tenthsPerSecond); tenths % tenthsPerSecond != 0)
+        out += '.' + part.substr(1, part.find_last_not_of('0'));
     return true;
 }
 
@@ -125,7 +164,10 @@ std::size_t sizeOf(Kind kind)
     case Kind::Currency:
     case Kind::Double:
     case Kind::DateTime:
+    case Kind::BigInteger:
         return 8;
+    case Kind::ExtendedDateTime:
+        return 42;
     case Kind::Decimal:
         return 17;
     case Kind::YesNo:
@@ -136,75 +178,18 @@ std::size_t sizeOf(Kind kind)
     return 0;
 }
 
-void appendUtf8(std::string& out, char32_t code)
-{
-    const auto add = [&out](char32_t byte) { out += static_cast<char>(byte); };
-    const auto tail = [&add, code](int shift) { add(0x80 | ((code >> shift) & 0x3F)); };
-    if (code < 0x80) {
-        add(code);
-    } else if (code < 0x800) {
-        add(0xC0 | (code >> 6));
-        tail(0);
-    } else if (code < 0x10000) {
-        add(0xE0 | (code >> 12));
-        tail(6);
-        tail(0);
-    } else {
-        add(0xF0 | (code >> 18));
-        tail(12);
-        tail(6);
-        tail(0);
-    }
-}
-
-/// Joins the units of UTF-16 as they come.
-class Utf16Text {
-public:
-    explicit Utf16Text(std::string& out) : m_out(out) {}
-    ~Utf16Text() { endHalf(); }
-    Utf16Text(const Utf16Text&) = delete;
-    Utf16Text& operator=(const Utf16Text&) = delete;
-
-    void add(unsigned unit)
-    {
-        const bool isFirstHalf = unit >= 0xD800 && unit < 0xDC00;
-        const bool isSecondHalf = unit >= 0xDC00 && unit < 0xE000;
-        if (isSecondHalf && m_firstHalf != 0) {
-            appendUtf8(m_out, 0x10000 + ((m_firstHalf - 0xD800) << 10) + (unit - 0xDC00));
-            m_firstHalf = 0;
-            return;
-        }
-        endHalf();
-        if (isFirstHalf)
-            m_firstHalf = unit;
-        else
-            appendUtf8(m_out, isSecondHalf ? Replacement : unit);
-    }
-
-    void addHalf() { add(Replacement); }
-
-private:
-    static constexpr unsigned Replacement = 0xFFFD;
-
-    void endHalf()
-    {
-        if (m_firstHalf != 0)
-            appendUtf8(m_out, Replacement);
-        m_firstHalf = 0;
-    }
-
-    std::string& m_out;
-    unsigned m_firstHalf = 0;
-};
-
 }  // namespace
 
-std::uint64_t lowByteFirst(Bytes stored, std::size_t offset, std::size_t count)
+bool hasText(Kind kind)
 {
-    std::uint64_t value = 0;
-    for (std::size_t i = count; i > 0; --i)
-        value = value << 8 | stored[offset + i - 1];
-    return value;
+    switch (kind) {
+    case Kind::YesNo:
+    case Kind::Text:
+    case Kind::Memo:
+        return true;
+    default:
+        return sizeOf(kind) != 0;
+    }
 }
 
 bool appendNumber(std::string& out, Kind kind, Bytes stored, int scale)
@@ -222,6 +207,9 @@ bool appendNumber(std::string& out, Kind kind, Bytes stored, int scale)
     case Kind::Long:
         out += std::to_string(static_cast<std::int32_t>(bits));
         return true;
+    case Kind::BigInteger:
+        out += std::to_string(static_cast<std::int64_t>(bits));
+        return true;
     case Kind::Currency:
         return appendCurrency(out, bits);
     case Kind::Single:
@@ -230,6 +218,8 @@ bool appendNumber(std::string& out, Kind kind, Bytes stored, int scale)
         return appendReal(out, std::bit_cast<double>(bits), 15);
     case Kind::DateTime:
         return appendDateTime(out, std::bit_cast<double>(bits));
+    case Kind::ExtendedDateTime:
+        return appendExtendedDateTime(out, stored);
     case Kind::Decimal:
         return appendDecimal(out, stored, scale);
     case Kind::YesNo:
@@ -240,27 +230,41 @@ bool appendNumber(std::string& out, Kind kind, Bytes stored, int scale)
     return false;
 }
 
-void appendText(std::string& out, Bytes stored)
+std::optional<Bytes> calculatedValue(Bytes stored)
 {
-    Utf16Text text(out);
-    // The compressed form starts with FF FE; then a byte is a character below 256, and a zero byte switches to whole
-    // characters of two bytes and back.
-    const bool isCompressed = stored.size() >= 2 && stored[0] == 0xFF && stored[1] == 0xFE;
-    bool oneByte = isCompressed;
-    for (std::size_t i = isCompressed ? 2 : 0; i < stored.size();) {
-        if (isCompressed && stored[i] == 0) {
-            oneByte = !oneByte;
-            ++i;
-        } else if (oneByte) {
-            text.add(stored[i++]);
-        } else if (i + 1 < stored.size()) {
-            text.add(static_cast<unsigned>(lowByteFirst(stored, i, 2)));
-            i += 2;
-        } else {
-            text.addHalf();
-            ++i;
-        }
+    constexpr std::size_t lengthOffset = 16;
+    constexpr std::size_t valueOffset = lengthOffset + 4;
+    if (stored.size() < valueOffset || number32(stored, lengthOffset) > stored.size() - valueOffset)
+        return std::nullopt;
+    return stored.subspan(valueOffset, number32(stored, lengthOffset));
+}
+
+bool appendCalculated(std::string& out, Kind kind, Bytes value)
+{
+    if (kind == Kind::YesNo || (value.size() == 1 && kind != Kind::Byte)) {
+        if (value.size() != 1)
+            return false;
+        out += value[0] != 0 ? "True" : "False";
+        return true;
     }
+    if (kind != Kind::Decimal)
+        return appendNumber(out, kind, value, 0);
+
+    // Length, decimals, sign, then digits in groups of 4 bytes: the highest one, if their number is odd, before pairs
+    // that are turned round.
+    if (value.size() < 8 || value.size() > 20)
+        return false;
+    const Bytes digits = value.subspan(4, (value.size() - 4) / 4 * 4);
+    std::array<unsigned char, 17> plain{};
+    plain[0] = value[3] != 0 ? 0x80 : 0;
+    const std::size_t groups = digits.size() / 4;
+    for (std::size_t group = 0; group < groups; ++group) {
+        const bool isAlone = groups % 2 == 1 && group == 0;
+        const std::size_t from = isAlone ? 0 : groups % 2 + ((group - groups % 2) ^ 1);
+        std::copy_n(digits.begin() + static_cast<std::ptrdiff_t>(4 * from), 4,
+                    plain.begin() + static_cast<std::ptrdiff_t>(1 + 4 * (4 - groups + group)));
+    }
+    return appendDecimal(out, plain, value[2]);
 }
 
 }  // namespace store

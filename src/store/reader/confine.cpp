@@ -2,14 +2,12 @@
 
 #include <algorithm>
 #include <csignal>
-#include <cstddef>
-#include <iterator>
 #include <vector>
 
-#include <linux/audit.h>
-#include <linux/filter.h>
+#include <fcntl.h>
 #include <linux/landlock.h>
-#include <linux/seccomp.h>
+#include <seccomp.h>
+#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/syscall.h>
@@ -27,82 +25,35 @@ void limit(__rlimit_resource resource, rlim_t soft, rlim_t hard)
     setrlimit(resource, &wanted);
 }
 
-/// A Landlock domain that allows nothing: every file that is opened or changed from here on is refused.
-void shutFiles()
-{
-    constexpr int rightsOfFirstVersion = 13;  // from LANDLOCK_ACCESS_FS_EXECUTE to LANDLOCK_ACCESS_FS_MAKE_SYM
-    landlock_ruleset_attr nothing{};
-    nothing.handled_access_fs = (1U << rightsOfFirstVersion) - 1;
-    const long ruleset = syscall(SYS_landlock_create_ruleset, &nothing, sizeof nothing, 0);
-    if (ruleset < 0)
-        return;
-    syscall(SYS_landlock_restrict_self, ruleset, 0);
-    close(static_cast<int>(ruleset));
-}
+struct Allowed {
+    int call;
+    std::vector<scmp_arg_cmp> arguments;  // under which it is allowed
+};
 
-#if defined(__x86_64__)
-constexpr unsigned Architecture = AUDIT_ARCH_X86_64;
-#elif defined(__aarch64__)
-constexpr unsigned Architecture = AUDIT_ARCH_AARCH64;
-#else
-constexpr unsigned Architecture = 0;
-#endif
-
-/// A filter of system calls that refuses to start, to connect and to meddle. It is a list of what is refused, not of
-/// what is allowed: reading a file must not fail where the C library takes to another call for it.
-void shutProcessesAndNetwork()
+/// What the library, the C library beneath it and this program use once the file is open.
+std::vector<Allowed> allowedCalls()
 {
-    constexpr long refused[] = {
-        SYS_execve,
-        SYS_execveat,
-        SYS_clone,
-        SYS_clone3,
-        SYS_kill,
-        SYS_tkill,
-        SYS_tgkill,
-        SYS_rt_sigqueueinfo,
-        SYS_rt_tgsigqueueinfo,
-        SYS_pidfd_send_signal,
-        SYS_prlimit64,  // also of another process
-        SYS_ptrace,
-        SYS_process_vm_readv,
-        SYS_process_vm_writev,
-        SYS_socket,
-        SYS_socketpair,
-        SYS_io_uring_setup,  // through which calls pass that no filter sees
-        SYS_truncate,        // which the first version of Landlock does not know
-#if defined(SYS_fork)
-        SYS_fork,
-        SYS_vfork,
+    const auto output = [](int file) { return Allowed{SCMP_SYS(write), {SCMP_A0(SCMP_CMP_EQ, scmp_datum_t(file))}}; };
+    const scmp_arg_cmp noCode = SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0);
+    return
+    {
+        {SCMP_SYS(read), {}},                                // pages of the data file: their place, their bytes
+            {SCMP_SYS(lseek), {}}, {SCMP_SYS(_llseek), {}},  // lseek where an address has 32 bits
+            {SCMP_SYS(fstat), {}},                           // the library asks for the file's size before every page
+            {SCMP_SYS(fstat64), {}},
+            {SCMP_SYS(newfstatat), {SCMP_A3(SCMP_CMP_EQ, AT_EMPTY_PATH)}},  // fstat in glibc 2.33 to 2.38
+            output(STDOUT_FILENO),
+            output(STDERR_FILENO),  // the library's warnings, which go nowhere
+            {SCMP_SYS(brk), {}},    // malloc
+            {SCMP_SYS(mmap), {noCode}}, {SCMP_SYS(mmap2), {noCode}}, {SCMP_SYS(munmap), {}}, {SCMP_SYS(mremap), {}},
+            {SCMP_SYS(futex), {}},  // locks of the C library and of C++ exceptions
+            {SCMP_SYS(exit_group), {}},
+#if defined(__SANITIZE_ADDRESS__)
+            {SCMP_SYS(madvise), {}},      // AddressSanitizer's own memory
+            {SCMP_SYS(sched_yield), {}},  // its locks
+            {SCMP_SYS(getpid), {}}, {SCMP_SYS(gettid), {}},
 #endif
     };
-    if (Architecture == 0)
-        return;
-    const auto compare = [](unsigned value, std::size_t jumpIfEqual, std::size_t jumpIfNot) {
-        return sock_filter{BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned char>(jumpIfEqual),
-                           static_cast<unsigned char>(jumpIfNot), value};
-    };
-    const auto load = [](std::size_t offset) {
-        return sock_filter{BPF_LD | BPF_W | BPF_ABS, 0, 0, static_cast<unsigned>(offset)};
-    };
-    const auto finish = [](unsigned action) { return sock_filter{BPF_RET | BPF_K, 0, 0, action}; };
-
-    std::vector<sock_filter> filter{
-        load(offsetof(seccomp_data, arch)),
-        compare(Architecture, 1, 0),
-        finish(SECCOMP_RET_KILL_PROCESS),  // calls by another architecture's numbers
-        load(offsetof(seccomp_data, nr)),
-    };
-    // Of x86-64 there is a second set of numbers, above the first.
-    constexpr unsigned secondSet = 0x40000000;
-    filter.push_back({BPF_JMP | BPF_JGE | BPF_K, static_cast<unsigned char>(std::size(refused) + 1), 0, secondSet});
-    for (std::size_t left = std::size(refused); left > 0; --left)
-        filter.push_back(compare(static_cast<unsigned>(refused[std::size(refused) - left]), left, 0));
-    filter.push_back(finish(SECCOMP_RET_ALLOW));
-    filter.push_back(finish(SECCOMP_RET_ERRNO | 1));  // EPERM
-
-    const sock_fprog program{static_cast<unsigned short>(filter.size()), filter.data()};
-    prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program);
 }
 
 }  // namespace
@@ -122,10 +73,33 @@ void limitResources()
 #endif
 }
 
-void shutDoors()
+/// A Landlock domain that allows nothing: every file that is opened, made or removed from here on is refused.
+void shutFiles()
 {
-    shutFiles();
-    shutProcessesAndNetwork();
+    constexpr int rightsOfFirstVersion = 13;  // from LANDLOCK_ACCESS_FS_EXECUTE to LANDLOCK_ACCESS_FS_MAKE_SYM
+    landlock_ruleset_attr nothing{};
+    nothing.handled_access_fs = (1U << rightsOfFirstVersion) - 1;
+    const long ruleset = syscall(SYS_landlock_create_ruleset, &nothing, sizeof nothing, 0);
+    if (ruleset < 0)
+        return;
+    syscall(SYS_landlock_restrict_self, ruleset, 0);
+    close(static_cast<int>(ruleset));
+}
+
+bool allowReadingAlone()
+{
+    const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_KILL_PROCESS);
+    if (!filter)
+        return false;
+    // Also calls by the numbers of another kind of processor, of which some processors know several.
+    bool isReady = seccomp_attr_set(filter, SCMP_FLTATR_ACT_BADARCH, SCMP_ACT_KILL_PROCESS) == 0;
+    for (const Allowed& allowed : allowedCalls())
+        isReady = isReady && seccomp_rule_add_array(filter, SCMP_ACT_ALLOW, allowed.call,
+                                                    static_cast<unsigned>(allowed.arguments.size()),
+                                                    allowed.arguments.data()) == 0;
+    const bool isConfined = isReady && seccomp_load(filter) == 0;
+    seccomp_release(filter);
+    return isConfined;
 }
 
 }  // namespace store

@@ -6,9 +6,12 @@ namespace store {
 /// core dump, no new privileges, and the end when the program that started this one ends.
 void limitResources();
 
-/// When the data file is open and before more of it than the header is taken apart: no other file is opened, made,
-/// changed or removed from here on, no program started, no connection made. Kernels that do not offer this go without
-/// it.
-void shutDoors();
+/// When the data file is open, and before more of it than the header is taken apart: no other file is opened, made or
+/// removed from here on. Kernels without Landlock go without it.
+void shutFiles();
+
+/// From here on this process can read what is open, write to its output and to its messages, and use memory. Any other
+/// system call ends it at once. False, and nothing changed, if the kernel offers no filter of system calls.
+bool allowReadingAlone();
 
 }  // namespace store

@@ -10,13 +10,15 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "store/reader/table_walk.h"
+
 namespace store {
 
 namespace {
 
-constexpr unsigned long CatalogPage = 2;
+constexpr std::uint32_t CatalogPage = 2;
 
-Refusal refusalFor(int error)
+Refusal openingRefusal(int error)
 {
     switch (error) {
     case ENOENT:
@@ -32,9 +34,9 @@ Refusal refusalFor(int error)
 void requireOrdinaryFile(const struct stat& about)
 {
     if (S_ISDIR(about.st_mode))
-        throw Refused{Refusal::Folder};
+        throw ReadError{Refusal::Folder};
     if (!S_ISREG(about.st_mode))
-        throw Refused{Refusal::NotAFile};
+        throw ReadError{Refusal::NotAFile};
 }
 
 /// The signature says only how a refusal is worded: a file that has lost it may still be readable.
@@ -48,7 +50,7 @@ bool hasSignature(int file)
 }
 
 /// Why the catalogue cannot be read.
-Refusal refusalWithoutCatalog(const Source& source)
+Refusal catalogRefusal(const Source& source)
 {
     if (!source.hasSignature)
         return Refusal::NotAccess;
@@ -56,7 +58,7 @@ Refusal refusalWithoutCatalog(const Source& source)
     // of Access 2000's, which serves for files that are merely encoded.
     if (source.mdb->f->jet_version >= MDB_VER_ACCDB_2007 && source.mdb->f->db_key != 0)
         return Refusal::Encrypted;
-    if (source.size <= static_cast<off_t>(CatalogPage) * source.pageSize())
+    if (source.size <= static_cast<off_t>(CatalogPage) * static_cast<off_t>(source.pageSize()))
         return Refusal::OnlyHeader;
     return Refusal::Damaged;
 }
@@ -66,36 +68,38 @@ bool isSameName(std::string_view one, std::string_view other)
     return one.size() == other.size() && g_ascii_strncasecmp(one.data(), other.data(), one.size()) == 0;
 }
 
-const TableWalk::Column& columnOf(const TableWalk& catalog, std::string_view name)
+const Column& columnOf(const TableWalk& catalog, std::string_view name)
 {
-    for (const TableWalk::Column& column : catalog.columns())
+    for (const Column& column : catalog.columns())
         if (column.name == name)
             return column;
-    throw Refused{Refusal::Damaged};
+    throw ReadError{Refusal::Damaged};
 }
 
 /// The library's own catalogue also follows the properties of every table, among which it loses itself in a damaged
 /// file; no property is needed here.
-unsigned long findInCatalog(TableWalk& catalog, std::string_view name)
+std::uint32_t findInCatalog(TableWalk& catalog, std::string_view name)
 {
-    const TableWalk::Column& nameColumn = columnOf(catalog, "Name");
-    const TableWalk::Column& typeColumn = columnOf(catalog, "Type");
-    const TableWalk::Column& idColumn = columnOf(catalog, "Id");
+    const Column& nameColumn = columnOf(catalog, "Name");
+    const Column& typeColumn = columnOf(catalog, "Type");
+    const Column& idColumn = columnOf(catalog, "Id");
 
     std::uint32_t entries = 0;
+    bool areEntriesLost = false;
     for (std::string text; catalog.next(); ++entries) {
+        areEntriesLost = areEntriesLost || catalog.isDamaged();
         if (catalog.cell(nameColumn, text) != TableWalk::Cell::Text || !isSameName(text, name))
             continue;
         if (catalog.cell(typeColumn, text) != TableWalk::Cell::Text || text != std::to_string(MDB_TABLE))
             continue;  // a query, or a link to a table of another file
-        unsigned long id = 0;
+        std::uint32_t id = 0;
         if (catalog.cell(idColumn, text) != TableWalk::Cell::Text ||
             std::from_chars(text.data(), text.data() + text.size(), id).ec != std::errc())
-            throw Refused{Refusal::Damaged};
+            throw ReadError{Refusal::Damaged};
         return id & 0xFFFFFF;
     }
-    const bool isWhole = !catalog.recordsLost() && (catalog.recordsSaid() == 0 || catalog.recordsSaid() == entries);
-    throw Refused{isWhole ? Refusal::NoTable : Refusal::Damaged};
+    areEntriesLost = areEntriesLost || catalog.recordsLost() || catalog.recordsSaid() > entries;
+    throw ReadError{areEntriesLost ? Refusal::Damaged : Refusal::NoTable};
 }
 
 }  // namespace
@@ -104,37 +108,40 @@ Source openSource(const char* path)
 {
     struct stat about = {};
     if (stat(path, &about) != 0)
-        throw Refused{refusalFor(errno)};
+        throw ReadError{openingRefusal(errno)};
     requireOrdinaryFile(about);  // before it is opened: opening a device or a pipe may wait, or do something
 
     const int file = open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (file < 0)
-        throw Refused{refusalFor(errno)};
+        throw ReadError{openingRefusal(errno)};
     if (fstat(file, &about) != 0)
-        throw Refused{Refusal::CannotOpen};
+        throw ReadError{Refusal::CannotOpen};
     requireOrdinaryFile(about);  // somebody may have put another one in its place
     if (about.st_size == 0)
-        throw Refused{Refusal::Empty};
+        throw ReadError{Refusal::Empty};
 
     // The library opens by name; this is the name of the very file that was looked at.
     Source source{.mdb = mdb_open(("/proc/self/fd/" + std::to_string(file)).c_str(), MDB_NOFLAGS),
+                  .file = file,
                   .size = about.st_size,
+                  .changed = about.st_mtim,
                   .hasSignature = hasSignature(file)};
-    close(file);
+    if (!source.mdb && access("/proc/self/fd", X_OK) != 0)
+        throw ReadError{Refusal::NoProc};
     if (!source.mdb)
-        throw Refused{source.hasSignature ? Refusal::Damaged : Refusal::NotAccess};
+        throw ReadError{source.hasSignature ? Refusal::Damaged : Refusal::NotAccess};
     return source;
 }
 
-unsigned long findTable(const Source& source, std::string_view name)
+std::uint32_t findTable(const Source& source, std::string_view name)
 {
     try {
         TableWalk catalog(source, CatalogPage);
         return findInCatalog(catalog, name);
-    } catch (const Refused& refused) {
-        if (refused.why != Refusal::Damaged)
+    } catch (const ReadError& error) {
+        if (error.refusal != Refusal::Damaged)
             throw;
-        throw Refused{refusalWithoutCatalog(source)};
+        throw ReadError{catalogRefusal(source)};
     }
 }
 

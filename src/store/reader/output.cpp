@@ -15,8 +15,9 @@ constexpr std::size_t Piece = std::size_t{64} << 10;
 
 }  // namespace
 
-Output::Output() : m_pending(wire::Greeting), m_item(m_pending.size())
+Output::Output() : m_pending(wire::Greeting)
 {
+    flush();
 }
 
 void Output::begin(char mark)
@@ -27,11 +28,11 @@ void Output::begin(char mark)
     m_pending += mark;
 }
 
-void Output::refuse(Refusal why)
+void Output::fail(Refusal refusal)
 {
     m_pending.resize(m_item);
-    begin(wire::Refused);
-    m_pending += static_cast<char>(why);
+    begin(wire::Failure);
+    m_pending += static_cast<char>(refusal);
 }
 
 void Output::yesNo(bool value)

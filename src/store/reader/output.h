@@ -12,6 +12,7 @@ namespace store {
 /// program ends.
 class Output {
 public:
+    /// Writes the greeting at once: what goes wrong from here on is not for want of a program that can be started.
     Output();
 
     /// Begins an item; the rest of it follows by the next three.
@@ -21,7 +22,7 @@ public:
     void text(std::string_view text);
 
     /// Takes the item in hand back and says instead why there is no table.
-    void refuse(Refusal why);
+    void fail(Refusal refusal);
 
     /// Writes what is left; nothing may follow.
     void end();
@@ -30,7 +31,7 @@ private:
     void flush();
 
     std::string m_pending;
-    std::size_t m_item;  // where in m_pending the item in hand begins
+    std::size_t m_item = 0;  // where in m_pending the item in hand begins
 };
 
 }  // namespace store
