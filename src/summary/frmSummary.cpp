@@ -58,11 +58,6 @@ QWidget* frmSummary::firstBox()
     return cmdTransfer.isEnabled() ? static_cast<QWidget*>(&cmdTransfer) : &txtSSN;
 }
 
-std::array<const frmSummary::Column*, 13> frmSummary::columns() const
-{
-    return {&txtSN, &txtTkm, &txtSSE, &txtTR, &txtM, &txtS, &txtTMan, &txtKey, &txtLR, &txtCS, &txtSS, &txtEx, &txtSDC};
-}
-
 void frmSummary::layOut()
 {
     QHBoxLayout& where = form.headerLine();
@@ -92,54 +87,36 @@ void frmSummary::layOut()
     cmdPrint.setToolTip(flow::LockTip);
 }
 
+// All but the totals is open for typing: Grand Total reads what stands in the table.
 RowSheet* frmSummary::table()
 {
-    // All but the totals is open for typing: Grand Total reads what stands in the table.
-    for (const Column* column : columns()) {
-        for (int row = 0; row < Rows; ++row) {
-            if (column != &txtSSE)
-                (*column)(row).setNumeric();
-            (*column)(row).setVisible(row == 0);
-        }
-        (*column)(Total).setLocked(true);
-    }
+    auto* rows = new RowSheet("Sr SE", MaxSrSes);
+    rows->withTotalRow();
+    rows->heading("   S.No     (Index)").entry(txtSN, 5);
+    rows->heading("    Sr       S.E.").textEntry(txtSSE, 22);
+    rows->heading("    Total    Km").entry(txtTkm, 8);
+    rows->heading("  Mandays          for            ('T'+ 'R')  ").entry(txtTR, 10);
+    rows->heading("  Mandays            for                 ('M')  ").entry(txtM, 9);
+    rows->heading("  Mandays            for                  ('S')  ").entry(txtS, 9);
+    rows->heading("   Total             Mandays       (T+R+M+S)").entry(txtTMan, 10);
+    rows->heading("  No of        Mates       Keymen").entry(txtKey, 7);
+    rows->heading("Leave      Res-       erve").entry(txtLR, 6);
+    rows->heading(" Calcu      lated Strength").entry(txtCS, 8);
+    rows->heading("Sanctd. Strength").entry(txtSS, 8);
+    rows->heading("  Sanctd            Decasua-    - lized  posts").entry(txtSDC, 8);
+    rows->heading("Excess(+) Shortage(-)").entry(txtEx, 8);
+    rows->finish();
+    rows->showRows(1);
     txtSN(Total).setText("Total");
     for (int row = 0; row < Rows; ++row) {
         connect(&txtEx(row), &QLineEdit::textChanged, this, [this, row] { markShortage(row); });
-        for (const Column* establishment : {&txtKey, &txtLR, &txtSS, &txtSDC})
+        for (Column* establishment : {&txtKey, &txtLR, &txtSS, &txtSDC})
             connect(&(*establishment)(row), &QLineEdit::textEdited, this, [this, row] { typedByHand(row); });
     }
-
-    auto* rows = new RowSheet("Sr SE", MaxSrSes);
-    rows->withTotalRow();
-    const auto column = [&](const QString& heading, const Column& boxes, int characters) {
-        rows->heading(heading);
-        rows->column(boxes, characters);
-    };
-    column("   S.No     (Index)", txtSN, 5);
-    column("    Sr       S.E.", txtSSE, 22);
-    column("    Total    Km", txtTkm, 8);
-    column("  Mandays          for            ('T'+ 'R')  ", txtTR, 10);
-    column("  Mandays            for                 ('M')  ", txtM, 9);
-    column("  Mandays            for                  ('S')  ", txtS, 9);
-    column("   Total             Mandays       (T+R+M+S)", txtTMan, 10);
-    column("  No of        Mates       Keymen", txtKey, 7);
-    column("Leave      Res-       erve", txtLR, 6);
-    column(" Calcu      lated Strength", txtCS, 8);
-    column("Sanctd. Strength", txtSS, 8);
-    column("  Sanctd            Decasua-    - lized  posts", txtSDC, 8);
-    column("Excess(+) Shortage(-)", txtEx, 8);
-    rows->finish();
     return rows;
 }
 
-void frmSummary::showRow(int row)
-{
-    for (const Column* column : columns())
-        (*column)(row).setVisible(true);
-}
-
-// A shortage is told from an excess by its minus sign, in red, and in bold for who sees no red.
+// A shortage is told from an excess by its minus sign, by red, and by bold for colour-blind users.
 void frmSummary::markShortage(int row)
 {
     controls::TextBox& box = txtEx(row);
@@ -153,14 +130,14 @@ void frmSummary::markShortage(int row)
 void frmSummary::txtSSN_Change()
 {
     NumSrSE = figures::countUpTo(MaxSrSes, txtSSN.text().toStdString());
-    for (int row = 1; row < figures::wholeRows(NumSrSE); ++row)
-        showRow(row);
+    // Rows once shown are not hidden again.
+    m_table->showRows(std::max(m_table->shownRows(), figures::wholeRows(NumSrSE)));
     cmdTransfer.setEnabled(true);
 
-    for (const Column* column : columns())
-        (*column)(Total).setProperty("Top", FirstRowTop + RowPitch * NumSrSE);
+    for (QWidget* box : m_table->totalBoxes())
+        box->setProperty("Top", FirstRowTop + RowPitch * NumSrSE);
     m_table->setTotalPlace(std::max(1.0, NumSrSE));  // the first row is always there
-    showRow(Total);
+    m_table->showTotal();
 }
 
 int frmSummary::row() const

@@ -83,11 +83,9 @@ private:
     QWidget* boxOf(const figures::RunTimeError& error) override { return &(*m_inWork)(error.row()); }
 
     using Column = controls::ControlArray<controls::TextBox>;
-    std::array<const Column*, 13> columns() const;
 
     void layOut();
     controls::RowSheet* table();
-    void showRow(int row);
     void markShortage(int row);
     void takeOver();
     void typedByHand(int row);
@@ -98,6 +96,6 @@ private:
     void addRows(std::span<const summary::TableRow> rows);
 
     controls::RowSheet* m_table = nullptr;
-    const Column* m_inWork = &txtTR;  // the column in which a failing computation names its row
-    int m_rowToFill = -1;             // the row whose Transfer found no establishment figures
+    Column* m_inWork = &txtTR;  // the column in which a failing computation names its row
+    int m_rowToFill = -1;       // the row whose Transfer found no establishment figures
 };

@@ -20,7 +20,16 @@ const QString ManuallyPacked = "Manually Packed";
 }  // namespace
 
 frmT1::frmT1(flow::Chain& owner, const frmStart& start)
-    : ImportScreen(owner, "frmT1", "Entering Track Data", "TR", "Tr Data", "TrGrid"),
+    : ImportScreen(owner,
+                   {.form = "frmT1",
+                    .caption = "Entering Track Data",
+                    .table = "TR",
+                    .source = "Tr Data",
+                    .grid = "TrGrid",
+                    .records = MaxSegments,
+                    .columns = 13,
+                    .opensCompute = false},
+                   cmdCopy, cmdCompute),
       optBG("optBG", "BG"),
       optMG("optMG", "MG"),
       optNG("optNG", "NG"),
@@ -28,10 +37,8 @@ frmT1::frmT1(flow::Chain& owner, const frmStart& start)
       m_start(start)
 {
     layOut();
+    addSource(start.txtT1(1).text());
     cmdCopy.setEnabled(false);
-    cmdCompute.setEnabled(false);
-
-    openSource(start.txtT1(1).text());
     setHint("Choose the gauge: it opens the import.");
     takeSrSe();
 
@@ -81,69 +88,37 @@ void frmT1::layOut()
     chkSub.setToolTip("\"For Subarban Sections the Maintenance has to be Mechanical\"");
     suburban.setToolTip(chkSub.toolTip());
     txtNSeg.setToolTip("Maximum number of segments is 16");
-    cmdNext.setToolTip(flow::LockTip);
-    cmdPrint.setToolTip(flow::LockTip);
     txtNSeg.setNumeric();
     for (const int taken : {1, 3, 4})
         txtT1(taken).setLocked(true);
     txtNSeg.setLocked(true);
 
-    form.addRows(segmentRows());
-    addGrid(cmdCopy);
-    form.buttons({&cmdCopy, &cmdCompute, &cmdPrint, &cmdNext});
+    m_rows = segmentRows();
+    form.addRows(m_rows);
 }
 
 RowSheet* frmT1::segmentRows()
 {
-    for (int i = 0; i < MaxSegments; ++i) {
-        txtSS(i).setText(QString::number(i + 1));
-        cboLn(i).addItems({"UP", "DN", "SL"});
-        cboLn(i).setText("Line");
-        cboMtc(i).addItems({MachinePacked, ManuallyPacked});
-        cboMtc(i).setText("Method of Maintenance");
-        for (auto* figure :
-             {&txtSS, &txtKmf, &txtKmt, &txtKm1, &txtGmt, &txtLWR, &txtConc1, &txtConc2, &txtTout, &txtTkm, &txtEqtkm})
-            (*figure)(i).setNumeric();
-        txtTkm(i).setLocked(true);
-        txtEqtkm(i).setLocked(true);
-        showRow(i, false);
-    }
     auto* rows = new RowSheet("segment", MaxSegments);
-    rows->heading("Segment     No");
-    rows->column(txtSS, 6);
-    rows->heading(" Line  dn/up");
-    rows->column(cboLn, 7);
-    rows->heading("Km From");
-    rows->column(txtKmf, 8);
-    rows->heading("Km To");
-    rows->column(txtKmt, 8);
-    rows->heading("  Extra      Kms      if  any");
-    rows->column(txtKm1, 7);
-    rows->heading("GMT");
-    rows->column(txtGmt, 7);
-    rows->heading("LWR (kms)");
-    rows->column(txtLWR, 7);
-    rows->heading(" Method   of    Maintenance");
-    rows->column(cboMtc, 20);
-    rows->heading("Length and no  of Eq.t/outs on conc Sleepers", 2);
-    rows->column(txtConc1, 8, "length");
-    rows->column(txtConc2, 7, "turnouts");
-    rows->heading("Total no of Eq.    turnouts");
-    rows->column(txtTout, 8);
-    rows->heading("Total Km");
-    rows->column(txtTkm, 8);
-    rows->heading("Eq. Length");
-    rows->column(txtEqtkm, 8);
+    rows->heading("Segment     No").entry(txtSS, 6);
+    rows->heading(" Line  dn/up").choice(cboLn, 7, {"UP", "DN", "SL"}, "Line");
+    rows->heading("Km From").entry(txtKmf, 8);
+    rows->heading("Km To").entry(txtKmt, 8);
+    rows->heading("  Extra      Kms      if  any").entry(txtKm1, 7);
+    rows->heading("GMT").entry(txtGmt, 7);
+    rows->heading("LWR (kms)").entry(txtLWR, 7);
+    rows->heading(" Method   of    Maintenance")
+        .choice(cboMtc, 20, {MachinePacked, ManuallyPacked}, "Method of Maintenance");
+    rows->heading("Length and no  of Eq.t/outs on conc Sleepers", 2)
+        .entry(txtConc1, 8, "length")
+        .entry(txtConc2, 7, "turnouts");
+    rows->heading("Total no of Eq.    turnouts").entry(txtTout, 8);
+    rows->heading("Total Km").result(txtTkm, 8);
+    rows->heading("Eq. Length").result(txtEqtkm, 8);
     rows->finish();
+    for (int i = 0; i < MaxSegments; ++i)
+        txtSS(i).setText(QString::number(i + 1));
     return rows;
-}
-
-void frmT1::showRow(int i, bool shown)
-{
-    for (QWidget* box : std::initializer_list<QWidget*>{&txtSS(i), &cboLn(i), &txtKmf(i), &txtKmt(i), &txtKm1(i),
-                                                        &txtLWR(i), &txtGmt(i), &cboMtc(i), &txtConc1(i), &txtConc2(i),
-                                                        &txtTout(i), &txtEqtkm(i), &txtTkm(i)})
-        box->setVisible(shown);
 }
 
 void frmT1::forceMethod(int i, const QString& method)
@@ -160,15 +135,12 @@ void frmT1::txtNSeg_Change()
     SegCount = countOf(txtNSeg, MaxSegments);
     if (chkSub.isChecked())
         forceMethod(0, MachinePacked);
-    for (int i = 0; i < SegCount; ++i) {
-        showRow(i, true);
+    m_rows->showRows(SegCount);
+    for (int i = 0; i < SegCount; ++i)
         if (chkSub.isChecked())
             forceMethod(i, MachinePacked);
         else
             cboMtc(i).setLocked(false);
-    }
-    for (int i = SegCount; i < MaxSegments; ++i)
-        showRow(i, false);
     cmdCompute.setEnabled(true);
     openImport();
 }
@@ -232,7 +204,6 @@ void frmT1::cmdCopy_Click()
         cboMtc(i).setText(cell(i + 1, 13));
     }
     finishImport();
-    focusDefault(cmdCompute);
 }
 
 void frmT1::cmdCompute_Click()
@@ -245,7 +216,7 @@ void frmT1::cmdCompute_Click()
             firstBad = i;
     if (ComputeError != 1) {
         txtNSeg.setLocked(true);
-        finishCompute(cmdCompute);
+        finishCompute();
     } else if (firstBad >= 0) {
         revealBox(txtKmf(firstBad));
     }

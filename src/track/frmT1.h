@@ -81,11 +81,11 @@ private:
     void takeSrSe();
     void layOut();
     controls::RowSheet* segmentRows();
-    void showRow(int i, bool shown);
     void packByHand(const QString& gauge);
     void openImport();
     void forceMethod(int i, const QString& method);
     bool computeRow(int i);
 
     const frmStart& m_start;
+    controls::RowSheet* m_rows = nullptr;
 };

@@ -14,13 +14,19 @@ using figures::picture;
 using figures::toSingle;
 
 frmT2::frmT2(flow::Chain& owner, const frmStart& start, const frmT1& t1)
-    : ImportScreen(owner, "frmT2", "Entering Data on Formation , Rainfall and Curves", "CS", "Soil Data", "SoilGrid"),
+    : ImportScreen(owner,
+                   {.form = "frmT2",
+                    .caption = "Entering Data on Formation , Rainfall and Curves",
+                    .table = "CS",
+                    .source = "Soil Data",
+                    .grid = "SoilGrid",
+                    .records = frmT1::MaxSegments,
+                    .columns = 9},
+                   cmdCopy, cmdCompute),
       m_t1(t1)
 {
     layOut();
-    cmdCompute.setEnabled(false);
-
-    openSource(start.txtT1(1).text());
+    addSource(start.txtT1(1).text());
     for (const int i : {1, 4})
         txtT1(i).setText(t1.txtT1(i).text());
     for (int i = 0; i < t1.SegCount; ++i) {
@@ -30,8 +36,6 @@ frmT2::frmT2(flow::Chain& owner, const frmStart& start, const frmT1& t1)
         txtEqtkm(i).setLocked(valueOf(txtEqtkm(i)) != 0);
     }
 
-    for (const auto* entered : {&txtSoil1, &txtTout1, &txtSoil2, &txtTout2, &txtCur1, &txtcur2, &txtCur3, &txtRain})
-        enableByTyping(cmdCompute, *entered);
     onPress(cmdCopy, &frmT2::cmdCopy_Click);
     onPress(cmdCompute, &frmT2::cmdCompute_Click);
 }
@@ -53,55 +57,38 @@ void frmT2::layOut()
     auto* legend = new Caption("A- Formation     B- Alignment    C- Rainfall");
     legend->setLines({{legend->text()}});
     notes.addWidget(legend);
-    addGrid(cmdCopy);
-    form.buttons({&cmdCopy, &cmdCompute, &cmdPrint, &cmdNext});
-    for (controls::Button* button : {&cmdCompute, &cmdPrint, &cmdNext})
-        button->setToolTip(flow::LockTip);
+    cmdCompute.setToolTip(flow::LockTip);
 }
 
 RowSheet* frmT2::segmentRows()
 {
-    for (const auto* column : {&txtSS, &txtEqtkm, &txtSoil1, &txtTout1, &txtSoil2, &txtTout2, &txtCur1, &txtcur2,
-                               &txtCur3, &txtRain, &txtA, &txtB, &txtC, &txtABC}) {
-        for (int i = 0; i < Elements; ++i)
-            (*column)(i).setNumeric();
-        for (int i = m_t1.SegCount; i < Elements; ++i)
-            (*column)(i).setVisible(false);
-    }
-    for (const auto* given : {&txtSS, &txtEqtkm, &txtA, &txtB, &txtC, &txtABC})
-        for (int i = 0; i < Elements; ++i)
-            (*given)(i).setLocked(true);
+    auto* rows = new RowSheet("segment", Elements);
+    rows->heading("Segment No").result(txtSS, 7);
+    rows->heading("Equivalent Length").result(txtEqtkm, 10);
+    rows->heading(
+            "-------- Type of Formation ------  Shrinkable         unstable      km    T/outs     Km    T/outs    ", 4,
+            {{"-------- Type of Formation ------"}, {"Shrinkable", "unstable"}, {"km", "T/outs", "Km", "T/outs"}})
+        .entry(txtSoil1, 7, "shrinkable, km")
+        .entry(txtTout1, 7, "shrinkable, turnouts")
+        .entry(txtSoil2, 7, "unstable, km")
+        .entry(txtTout2, 7, "unstable, turnouts");
+    rows->heading("    Length of Curves (kms)    1-2 Deg             >2 Deg                   Eq Deg", 3,
+                  {{"Length of Curves (kms)"}, {"1-2 Deg", ">2 Deg", "Eq Deg"}})
+        .entry(txtCur1, 7, "1-2 Deg")
+        .entry(txtcur2, 7, ">2 Deg")
+        .entry(txtCur3, 7, "Eq Deg");
+    rows->heading("Rainfall in cms").entry(txtRain, 8);
+    rows->heading(
+            "------------   Augmention Factors  --------------      A             B              C        (1+A+B+C)", 4,
+            {{"------------   Augmention Factors  --------------"}, {"A", "B", "C", "(1+A+B+C)"}})
+        .result(txtA, 9, "A")
+        .result(txtB, 9, "B")
+        .result(txtC, 9, "C")
+        .result(txtABC, 9, "1+A+B+C");
+    rows->finish();
+    rows->showRows(m_t1.SegCount);
     for (int i = 0; i < Elements; ++i)
         txtSS(i).setToolTip("Max number of subsections is 12");
-
-    auto* rows = new RowSheet("segment", Elements);
-    rows->heading("Segment No");
-    rows->column(txtSS, 7);
-    rows->heading("Equivalent Length");
-    rows->column(txtEqtkm, 10);
-    rows->heading(
-            "-------- Type of Formation ------  Shrinkable         unstable      km    T/outs     Km    T/outs    ", 4)
-        .setLines(
-            {{"-------- Type of Formation ------"}, {"Shrinkable", "unstable"}, {"km", "T/outs", "Km", "T/outs"}});
-    rows->column(txtSoil1, 7, "shrinkable, km");
-    rows->column(txtTout1, 7, "shrinkable, turnouts");
-    rows->column(txtSoil2, 7, "unstable, km");
-    rows->column(txtTout2, 7, "unstable, turnouts");
-    rows->heading("    Length of Curves (kms)    1-2 Deg             >2 Deg                   Eq Deg", 3)
-        .setLines({{"Length of Curves (kms)"}, {"1-2 Deg", ">2 Deg", "Eq Deg"}});
-    rows->column(txtCur1, 7, "1-2 Deg");
-    rows->column(txtcur2, 7, ">2 Deg");
-    rows->column(txtCur3, 7, "Eq Deg");
-    rows->heading("Rainfall in cms");
-    rows->column(txtRain, 8);
-    rows->heading(
-            "------------   Augmention Factors  --------------      A             B              C        (1+A+B+C)", 4)
-        .setLines({{"------------   Augmention Factors  --------------"}, {"A", "B", "C", "(1+A+B+C)"}});
-    rows->column(txtA, 9, "A");
-    rows->column(txtB, 9, "B");
-    rows->column(txtC, 9, "C");
-    rows->column(txtABC, 9, "1+A+B+C");
-    rows->finish();
     return rows;
 }
 
@@ -123,7 +110,7 @@ void frmT2::cmdCopy_Click()
         txtcur2(i).setText(cell(i + 1, 8));
         txtCur3(i).setText(cell(i + 1, 9));
     }
-    finishImport(cmdCompute);
+    finishImport();
 }
 
 track::SegmentGround frmT2::readRow(int i)
@@ -170,5 +157,5 @@ void frmT2::cmdCompute_Click()
         setText(txtC(i), picture(FacC[at], "#.######"));
         setText(txtABC(i), picture(augmentations[at].factor, "#.######"));
     }
-    finishCompute(cmdCompute);
+    finishCompute();
 }

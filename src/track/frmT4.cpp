@@ -11,14 +11,14 @@ using figures::numbered;
 using figures::picture;
 
 frmT4::frmT4(flow::Chain& owner, const frmT1& t1, const frmT2& t2)
-    : StepScreen(owner, "frmT4", "Calculations  of Mandays required for ' T ' and ' R ' activities of main line"),
-      m_t1(t1),
-      m_t2(t2)
+    : StepScreen(owner, "frmT4", "Calculations  of Mandays required for ' T ' and ' R ' activities of main line",
+                 cmdCompute),
+      m_t1(t1)
 {
     layOut();
 
     for (int i = 0; i < t1.SegCount; ++i)
-        copyRow(i);
+        copyRow(i, t2);
     for (int i = 0; i < txtT1.size(); ++i)
         txtT1(i).setText(t1.txtT1(i).text());
     txtNSeg.setText(t1.txtNSeg.text());
@@ -27,7 +27,7 @@ frmT4::frmT4(flow::Chain& owner, const frmT1& t1, const frmT2& t2)
     onPress(cmdCompute, &frmT4::cmdCompute_Click);
 }
 
-void frmT4::copyRow(int i)
+void frmT4::copyRow(int i, const frmT2& t2)
 {
     txtSS(i).setText(m_t1.txtSS(i).text());
     txtEqtkm(i).setText(m_t1.txtEqtkm(i).text());
@@ -37,7 +37,7 @@ void frmT4::copyRow(int i)
     txtConc1(i).setText(m_t1.txtConc1(i).text());
     txtConc2(i).setText(m_t1.txtConc2(i).text());
     txtTout(i).setText(m_t1.txtTout(i).text());
-    txtABC(i).setText(m_t2.txtABC(i).text());
+    txtABC(i).setText(t2.txtABC(i).text());
 }
 
 void frmT4::layOut()
@@ -69,51 +69,35 @@ void frmT4::layOut()
     sum.addStretch(6);  // under the factor's column
     sum.addWidget(legend);
     sum.addStretch(1);
+    txtMan3(Total).setNumeric();
+    txtMan3(Total).setLocked(true);
     controls::addField(sum, "Total Mandays for      ('T'+ 'R') Activities        for the Sr.S.E. ", txtMan3(Total), 12);
     form.buttons({&cmdCompute, &cmdPrint, &cmdNext});
     setDefaultButton(&cmdCompute);
-    for (controls::Button* button : {&cmdCompute, &cmdPrint, &cmdNext})
-        button->setToolTip(flow::LockTip);
+    cmdCompute.setToolTip(flow::LockTip);
 }
 
 RowSheet* frmT4::segmentRows()
 {
-    for (const auto* column :
-         {&txtSS, &txtEqtkm, &txtGmt, &txtTmc, &txtConc1, &txtConc2, &txtTout, &txtABC, &txtMan1, &txtMan2, &txtMan3}) {
-        for (int i = 0; i < column->size(); ++i) {
-            (*column)(i).setLocked(true);
-            if (column != &txtTmc)
-                (*column)(i).setNumeric();
-        }
-        for (int i = m_t1.SegCount; i < Segments; ++i)
-            (*column)(i).setVisible(false);
-    }
+    auto* rows = new RowSheet("segment", Segments);
+    rows->heading("Seg ment No").result(txtSS, 6);
+    rows->heading("Equivalent Length").result(txtEqtkm, 10);
+    rows->heading("GMT").result(txtGmt, 8);
+    rows->heading("      Method of               Maintenance").textResult(txtTmc, 18);
+    rows->heading("Length and no  of Eq.t/outs on conc Sleepers", 2)
+        .result(txtConc1, 8, "length")
+        .result(txtConc2, 8, "turnouts");
+    rows->heading("Total no of Eq.    turnouts").result(txtTout, 8);
+    rows->heading("Augmention     Factor       (1+A+B+C) ").result(txtABC, 10);
+    rows->heading("  Mandays required for      ' T '          ' R '       Activities    Activities", 2,
+                  {{"Mandays required for"}, {"' T '", "' R '"}, {"Activities", "Activities"}})
+        .result(txtMan1, 11, "'T'")
+        .result(txtMan2, 11, "'R'");
+    rows->heading("  Mandays        for         ('T'+ 'R')  ").result(txtMan3, 12);
+    rows->finish();
+    rows->showRows(m_t1.SegCount);
     for (int i = 0; i < Segments; ++i)
         txtSS(i).setToolTip("Max number of subsections is 12");
-
-    auto* rows = new RowSheet("segment", Segments);
-    rows->heading("Seg ment No");
-    rows->column(txtSS, 6);
-    rows->heading("Equivalent Length");
-    rows->column(txtEqtkm, 10);
-    rows->heading("GMT");
-    rows->column(txtGmt, 8);
-    rows->heading("      Method of               Maintenance");
-    rows->column(txtTmc, 18);
-    rows->heading("Length and no  of Eq.t/outs on conc Sleepers", 2);
-    rows->column(txtConc1, 8, "length");
-    rows->column(txtConc2, 8, "turnouts");
-    rows->heading("Total no of Eq.    turnouts");
-    rows->column(txtTout, 8);
-    rows->heading("Augmention     Factor       (1+A+B+C) ");
-    rows->column(txtABC, 10);
-    rows->heading("  Mandays required for      ' T '          ' R '       Activities    Activities", 2)
-        .setLines({{"Mandays required for"}, {"' T '", "' R '"}, {"Activities", "Activities"}});
-    rows->column(txtMan1, 11, "'T'");
-    rows->column(txtMan2, 11, "'R'");
-    rows->heading("  Mandays        for         ('T'+ 'R')  ");
-    rows->column(txtMan3, 12);
-    rows->finish();
     return rows;
 }
 
@@ -188,5 +172,5 @@ void frmT4::cmdCompute_Click()
         setText(txtMan3(i), picture(ManTR[at], "####.##"));
     }
     setText(txtMan3(Total), picture(TotMan, "######.##"));
-    finishCompute(cmdCompute);
+    finishCompute();
 }

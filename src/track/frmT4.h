@@ -66,7 +66,7 @@ private:
 
     void layOut();
     controls::RowSheet* segmentRows();
-    void copyRow(int i);
+    void copyRow(int i, const frmT2& t2);
     void readRow(int i);
     void manpowerMg();
     void manpowerNg();
@@ -74,5 +74,4 @@ private:
     void keep(int i, const track::MainLineMandays& mandays);
 
     const frmT1& m_t1;
-    const frmT2& m_t2;
 };

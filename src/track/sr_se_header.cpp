@@ -11,7 +11,7 @@ constexpr int NameCharacters = 24;
 constexpr int Gauge = 3;  // the element of the track screen's header
 }  // namespace
 
-void addHeader(QBoxLayout& line, const frmT1& t1, const controls::ControlArray<controls::TextBox>& txtT1)
+void addHeader(QBoxLayout& line, const frmT1& t1, controls::ControlArray<controls::TextBox>& txtT1)
 {
     controls::addField(line, "Section-", txtT1(0), NameCharacters);
     controls::addField(line, "Sr S.E. with index-", txtT1(1), SrSeCharacters);

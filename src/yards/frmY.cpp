@@ -15,21 +15,24 @@ constexpr int ColumnWidth = 12;  // alike for all, so that the cells of the head
 }
 
 frmY::frmY(flow::Chain& owner, const frmStart& start, const frmT1& t1)
-    : ImportScreen(owner, "frmY", "Entering Yard Data", "YD", "Yard Data", "YdGrid")
+    : ImportScreen(owner,
+                   {.form = "frmY",
+                    .caption = "Entering Yard Data",
+                    .table = "YD",
+                    .source = "Yard Data",
+                    .grid = "YdGrid",
+                    .records = MaxYards,
+                    .columns = 9},
+                   cmdYdata, cmdCOMPUTE)
 {
     layOut();
-    cmdCOMPUTE.setEnabled(false);
-
-    openSource(start.txtT1(1).text());
+    addSource(start.txtT1(1).text());
     for (const int i : {1, 3, 4})
         txtT1(i).setText(t1.txtT1(i).text());
 
     onChange(txtNYd, &frmY::txtNYd_Change);
     onPress(cmdYdata, &frmY::cmdYdata_Click);
     onPress(cmdCOMPUTE, &frmY::cmdCOMPUTE_Click);
-    enableByTyping(cmdCOMPUTE, {&txtNYd});
-    for (const auto* entered : {&txtStn, &txtM1, &txtM2, &TXTM3, &TXTM4, &txtM5, &txtM6})
-        enableByTyping(cmdCOMPUTE, *entered);
 }
 
 void frmY::layOut()
@@ -49,72 +52,47 @@ void frmY::layOut()
     txtNYd.setToolTip("Data for a maximum of 12 yards can be given");
     txtNYd.setLimit(MaxYards);
 
-    form.addRows(yardRows());
+    m_rows = yardRows();
+    form.addRows(m_rows);
     QHBoxLayout& result = form.lineBelow();
     result.addStretch();
     controls::addField(result, "  Total Numer of Mandays for Yard      maintenance", txtYd4, 12);
     txtYd4.setNumeric();
     txtYd4.setLocked(true);
-
-    addGrid(cmdYdata);
-    form.buttons({&cmdYdata, &cmdCOMPUTE, &cmdPrint, &cmdNext});
-    for (controls::Button* final : {&cmdCOMPUTE, &cmdPrint, &cmdNext})
-        final->setToolTip(flow::LockTip);
+    cmdCOMPUTE.setToolTip(flow::LockTip);
 }
 
 RowSheet* frmY::yardRows()
 {
-    for (const auto* figure : {&txtM1, &txtM2, &TXTM3, &TXTM4, &txtM5, &txtM6}) {
-        for (int i = 0; i <= MaxYards; ++i)
-            (*figure)(i).setNumeric();
-        (*figure)(MaxYards).setLocked(true);
-    }
-    for (int i = 0; i < MaxYards; ++i)
-        showRow(i, false);
-    showTotals(false);
-
-    // "Station" is drawn with the lower heading, right over the names.
     auto* rows = new RowSheet("yard", MaxYards);
     rows->withTotalRow("Total");
-    rows->heading(" Station         Length of Lines(km)                         No of Turnouts", 7)
-        .setLines({{"", "", "Length of Lines(km)", "", "", "No of Turnouts", ""}});
+    // "Station" is drawn with the lower heading, right over the names.
+    rows->heading(" Station         Length of Lines(km)                         No of Turnouts", 7,
+                  {{"", "", "Length of Lines(km)", "", "", "No of Turnouts", ""}});
     rows->heading("    Machine          Manually        Manually             Machine      Manually        Manually    "
                   "       Packed            Packed           Packed              Packed        Packed         Packed   "
                   "             RYL                 RYL               NRYL               on RYL         on RYL        "
                   "on NYRL",
-                  7)
-        .setLines({{"", "Machine", "Manually", "Manually", "Machine", "Manually", "Manually"},
+                  7,
+                  {{"", "Machine", "Manually", "Manually", "Machine", "Manually", "Manually"},
                    {"", "Packed", "Packed", "Packed", "Packed", "Packed", "Packed"},
-                   {"Station", "RYL", "RYL", "NRYL", "on RYL", "on RYL", "on NYRL"}});
-    rows->column(txtStn, ColumnWidth);
-    rows->column(txtM1, ColumnWidth, "length");
-    rows->column(txtM2, ColumnWidth, "length");
-    rows->column(TXTM3, ColumnWidth, "length");
-    rows->column(TXTM4, ColumnWidth, "turnouts");
-    rows->column(txtM5, ColumnWidth, "turnouts");
-    rows->column(txtM6, ColumnWidth, "turnouts");
+                   {"Station", "RYL", "RYL", "NRYL", "on RYL", "on RYL", "on NYRL"}})
+        .textEntry(txtStn, ColumnWidth)
+        .entry(txtM1, ColumnWidth, "length")
+        .entry(txtM2, ColumnWidth, "length")
+        .entry(TXTM3, ColumnWidth, "length")
+        .entry(TXTM4, ColumnWidth, "turnouts")
+        .entry(txtM5, ColumnWidth, "turnouts")
+        .entry(txtM6, ColumnWidth, "turnouts");
     rows->finish();
     return rows;
-}
-
-void frmY::showRow(int i, bool shown)
-{
-    for (auto* boxes : {&txtStn, &txtM1, &txtM2, &TXTM3, &TXTM4, &txtM5, &txtM6})
-        (*boxes)(i).setVisible(shown);
-}
-
-void frmY::showTotals(bool shown)
-{
-    for (auto* boxes : {&txtM1, &txtM2, &TXTM3, &TXTM4, &txtM5, &txtM6})
-        (*boxes)(MaxYards).setVisible(shown);
 }
 
 void frmY::txtNYd_Change()
 {
     NYd = countOf(txtNYd, MaxYards);
-    for (int i = 0; i < MaxYards; ++i)
-        showRow(i, i < NYd);
-    showTotals(true);
+    m_rows->showRows(NYd);
+    m_rows->showTotal();
 }
 
 void frmY::cmdYdata_Click()
@@ -129,7 +107,7 @@ void frmY::cmdYdata_Click()
         txtM5(i).setText(cell(i + 1, 8));
         txtM6(i).setText(cell(i + 1, 9));
     }
-    finishImport(cmdCOMPUTE);
+    finishImport();
 }
 
 yards::YardLines frmY::readRow(int i)
@@ -178,8 +156,8 @@ void frmY::cmdCOMPUTE_Click()
     setText(TXTM4(MaxYards), picture(Sum4, "####.##"));
     setText(txtM5(MaxYards), picture(Sum5, "####.##"));
     setText(txtM6(MaxYards), picture(Sum6, "####.##"));
-    showTotals(true);  // also when no count was ever given
+    m_rows->showTotal();  // also when no count was ever given
     setText(txtYd4, picture(YdMan, "#####.##"));
     txtNYd.setLocked(true);
-    finishCompute(cmdCOMPUTE);
+    finishCompute();
 }

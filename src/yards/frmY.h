@@ -62,7 +62,7 @@ private:
 
     void layOut();
     controls::RowSheet* yardRows();
-    void showRow(int i, bool shown);
-    void showTotals(bool shown);
     yards::YardLines readRow(int i);
+
+    controls::RowSheet* m_rows = nullptr;
 };

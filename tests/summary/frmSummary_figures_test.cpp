@@ -82,7 +82,7 @@ TEST_F(SummaryScreen, ComputeTakesWhatWasTypedOverTheTransferredFigures)
 // Its boxes are open for typing, and mark what is no number: what a picture shows for 0 is one.
 TEST_F(SummaryScreen, ZeroesAreNotMarked)
 {
-    const frmSummary& form = open("1");
+    frmSummary& form = open("1");
     work("1", {".", "", ""}, {"0", "", "", ""});
     transferAndComputeLast();
     EXPECT_EQ(row(0), "1|Sr SE Ambapur||.|||.|0|||||");

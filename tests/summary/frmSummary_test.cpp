@@ -180,7 +180,7 @@ TEST_F(SummaryScreen, TransferTakesEachFigureFromItsScreen)
     auto& start = chain.get<frmStart>();
     start.txtT1(0).setText("Sr SE Jamunia");
     start.txtT1(4).setText("3");
-    const frmT1& t1 = chain.get<frmT1>();
+    auto& t1 = chain.get<frmT1>();
     for (int i = 0; i < 16; ++i)
         t1.txtTkm(i).setText(QString("%1.5").arg(i));
     // What the track screen has taken counts, not what the start screen says since.

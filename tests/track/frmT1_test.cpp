@@ -225,7 +225,7 @@ TEST_F(TrackScreen, ASuburbanSectionIsBroadGaugeAndMachinePacked)
 
 TEST_F(TrackScreen, ClearingTheSuburbanBoxDoesAsTickingIt)
 {
-    const frmT1& t1 = openRows(2);
+    frmT1& t1 = openRows(2);
     click("chkSub");
     t1.cboMtc(1).setText("Machine packed");
     click("chkSub");

@@ -172,6 +172,17 @@ TEST_F(GroundScreen, ALengthOfZeroCanBeMendedSoThatTheWayGoesOn)
     EXPECT_TRUE(enabled("cmdNext"));
 }
 
+// A segment on good ground, straight and dry has nothing else to be typed.
+TEST_F(GroundScreen, ALengthThatIsTypedOpensComputeAsAnyFigure)
+{
+    open({"."});
+    EXPECT_FALSE(enabled("cmdCompute"));
+    type("txtEqtkm(0)", "4");
+    EXPECT_TRUE(enabled("cmdCompute"));
+    click("cmdCompute");
+    EXPECT_EQ(factors(0), ".|.|.|1.");
+}
+
 TEST_F(GroundScreen, AFigureBeyondASingleIsAnOverflow)
 {
     open({"10", "10"});

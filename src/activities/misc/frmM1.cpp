@@ -22,30 +22,12 @@ namespace {
 constexpr int CountWidth = 3;
 constexpr int FigureWidth = 7;
 
-using Column = controls::ControlArray<TextBox>;
-
-/// Numbers and shows the first `count` rows. Hidden rows keep their texts.
-void buildRows(int count, const Column& numbers, std::initializer_list<const Column*> columns)
+/// Shows the first `count` rows, numbered. Hidden rows keep their texts.
+void showNumbered(RowSheet& rows, controls::ControlArray<TextBox>& numbers, int count)
 {
-    for (int i = 0; i < frmM1::MaxRows; ++i) {
-        const bool inUse = i < count;
-        if (inUse)
-            numbers(i).setText(QString::number(i + 1));
-        numbers(i).setVisible(inUse);
-        for (const Column* column : columns)
-            (*column)(i).setVisible(inUse);
-    }
-}
-
-void prepareRows(const Column& numbers, std::initializer_list<const Column*> columns)
-{
-    for (int i = 0; i < frmM1::MaxRows; ++i) {
-        numbers(i).setNumeric();
-        numbers(i).setLocked(true);
-        for (const Column* column : columns)
-            (*column)(i).setNumeric();
-    }
-    buildRows(0, numbers, columns);
+    for (int i = 0; i < count; ++i)
+        numbers(i).setText(QString::number(i + 1));
+    rows.showRows(count);
 }
 
 /// The count that builds the rows below it, with its limit as a note, and at the right the activity's result.
@@ -76,12 +58,19 @@ Section* weatherPatrolling(const QString& heading, TextBox& length, TextBox& man
 }  // namespace
 
 frmM1::frmM1(flow::Chain& owner, const frmStart& start, const frmT1& t1)
-    : ImportScreen(owner, "frmM1", "Data Entry for - For Miscelleneous Activities", "M1", "M1 Data", "GridM1"), m_t1(t1)
+    : ImportScreen(owner,
+                   {.form = "frmM1",
+                    .caption = "Data Entry for - For Miscelleneous Activities",
+                    .table = "M1",
+                    .source = "M1 Data",
+                    .grid = "GridM1",
+                    .records = 10,
+                    .columns = 2 + MaxRows},
+                   cmdData, cmdCompute),
+      m_t1(t1)
 {
     layOut();
-    cmdCompute.setEnabled(false);
-
-    openSource(start.txtT1(1).text());
+    addSource(start.txtT1(1).text());
     for (TextBox* length : {&txtHLWR, &txtCLWR})
         setText(*length, figures::textOf(t1.LwrTotal));
 
@@ -89,9 +78,6 @@ frmM1::frmM1(flow::Chain& owner, const frmStart& start, const frmT1& t1)
     onChange(txtVL, &frmM1::txtVL_Change);
     onPress(cmdData, &frmM1::cmdData_Click);
     onPress(cmdCompute, &frmM1::cmdCompute_Click);
-    enableByTyping(cmdCompute, {&txtNB, &txtVL});
-    for (const Column* entered : {&txtND, &txtBL, &txtNS, &txtNM, &txtDV, &txtDS})
-        enableByTyping(cmdCompute, *entered);
 }
 
 void frmM1::layOut()
@@ -103,11 +89,6 @@ void frmM1::layOut()
     form.sections({{monsoonPatrolling()},
                    {weatherPatrolling("M.2-Hot Weather Patrolling- Monsoon Patrollong :--", txtHLWR, txtMan2),
                     weatherPatrolling("M.3-Cold Weather Patrolling-", txtCLWR, txtMan3), vulnerableLocations()}});
-
-    addGrid(cmdData);
-    form.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
-    for (controls::Button* final : {&cmdPrint, &cmdNext})
-        final->setToolTip(flow::LockTip);
 }
 
 Section* frmM1::monsoonPatrolling()
@@ -115,20 +96,14 @@ Section* frmM1::monsoonPatrolling()
     auto* section = new Section("M.1- Monsoon Patrollong :--");
     addCount(*section, "Total Number of Beat Lengths ?", txtNB, "Data for a maximum of 12 beat lengths can be entered",
              "Calculated Mandays - ", txtman1);
-    prepareRows(txtTB, {&txtND, &txtBL, &txtNS, &txtNM});
-    auto* rows = new RowSheet("beat length", MaxRows);
-    rows->heading("Beat Length Number- ");
-    rows->column(txtTB, 7);
-    rows->heading("     Number of days needing                  Patrolling in the beat length");
-    rows->column(txtND, 15);
-    rows->heading("No of Beats in the beat length");
-    rows->column(txtBL, 10);
-    rows->heading("No of Shifts inthe beat length");
-    rows->column(txtNS, 10);
-    rows->heading("Number of men in each Shift");
-    rows->column(txtNM, 10);
-    rows->finish();
-    section->add(rows);
+    m_beatRows = new RowSheet("beat length", MaxRows);
+    m_beatRows->heading("Beat Length Number- ").result(txtTB, 7);
+    m_beatRows->heading("     Number of days needing                  Patrolling in the beat length").entry(txtND, 15);
+    m_beatRows->heading("No of Beats in the beat length").entry(txtBL, 10);
+    m_beatRows->heading("No of Shifts inthe beat length").entry(txtNS, 10);
+    m_beatRows->heading("Number of men in each Shift").entry(txtNM, 10);
+    m_beatRows->finish();
+    section->add(m_beatRows);
     return section;
 }
 
@@ -137,29 +112,25 @@ Section* frmM1::vulnerableLocations()
     auto* section = new Section("M.4-Watching Vulnerable Locations-");
     addCount(*section, "No. of vulnerable Locations-", txtVL,
              "Data for a max of 12 vulnerable locations can be entered", "Mandays Calculated-", txtMan4);
-    prepareRows(txtNVL, {&txtDV, &txtDS});
-    auto* rows = new RowSheet("location", MaxRows);
-    rows->heading("Vulnerable  Location Number- ");
-    rows->column(txtNVL, 10);
-    rows->heading("No of Days Watching required at the Location-");
-    rows->column(txtDV, 14);
-    rows->heading("No of Duty Shifts at  each   location-");
-    rows->column(txtDS, 14);
-    rows->finish();
-    section->add(rows);
+    m_locationRows = new RowSheet("location", MaxRows);
+    m_locationRows->heading("Vulnerable  Location Number- ").result(txtNVL, 10);
+    m_locationRows->heading("No of Days Watching required at the Location-").entry(txtDV, 14);
+    m_locationRows->heading("No of Duty Shifts at  each   location-").entry(txtDS, 14);
+    m_locationRows->finish();
+    section->add(m_locationRows);
     return section;
 }
 
 void frmM1::txtNB_Change()
 {
     m_beatLengths = countOf(txtNB, MaxRows);
-    buildRows(m_beatLengths, txtTB, {&txtND, &txtNS, &txtBL, &txtNM});
+    showNumbered(*m_beatRows, txtTB, m_beatLengths);
 }
 
 void frmM1::txtVL_Change()
 {
     m_locations = countOf(txtVL, MaxRows);
-    buildRows(m_locations, txtNVL, {&txtDV, &txtDS});
+    showNumbered(*m_locationRows, txtNVL, m_locations);
 }
 
 void frmM1::cmdData_Click()
@@ -180,7 +151,7 @@ void frmM1::cmdData_Click()
         txtDV(i).setText(cell(9, 3 + i));
         txtDS(i).setText(cell(10, 3 + i));
     }
-    finishImport(cmdCompute);
+    finishImport();
 }
 
 void frmM1::cmdCompute_Click()
@@ -214,5 +185,5 @@ void frmM1::cmdCompute_Click()
     setText(txtMan4, picture(vulnerable, "####"));
     txtNB.setLocked(true);
     txtVL.setLocked(true);
-    finishCompute(cmdCompute);
+    finishCompute();
 }

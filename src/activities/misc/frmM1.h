@@ -1,4 +1,5 @@
 #pragma once
+#include "screens/controls/row_sheet.h"
 #include "screens/controls/section.h"
 #include "screens/flow/data_screen.h"
 
@@ -58,9 +59,11 @@ private:
     controls::Section* vulnerableLocations();
 
     const frmT1& m_t1;
+    controls::RowSheet* m_beatRows = nullptr;
+    controls::RowSheet* m_locationRows = nullptr;
     int m_beatLengths = 0;
     int m_locations = 0;
-    double m_monsoonMandays = 0.0;                                       // M.1; a Compute adds to it
-    float m_locationMandays = 0.0F;                                      // M.4; a Compute adds to it
-    const controls::ControlArray<controls::TextBox>* m_atWork = &txtNM;  // the rows that Compute is at
+    double m_monsoonMandays = 0.0;                                 // M.1; a Compute adds to it
+    float m_locationMandays = 0.0F;                                // M.4; a Compute adds to it
+    controls::ControlArray<controls::TextBox>* m_atWork = &txtNM;  // the rows that Compute is at
 };

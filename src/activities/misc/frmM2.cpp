@@ -43,19 +43,22 @@ Section* activity(const QString& heading, const QString& caption, TextBox& figur
 }  // namespace
 
 frmM2::frmM2(flow::Chain& owner, const frmStart& start, const frmT1& t1, const frmM1& m1)
-    : ImportScreen(owner, "frmM2", "Data Entry for Miscelleneous Activities  (continued).....", "M2", "M2 Data",
-                   "GridM2"),
+    : ImportScreen(owner,
+                   {.form = "frmM2",
+                    .caption = "Data Entry for Miscelleneous Activities  (continued).....",
+                    .table = "M2",
+                    .source = "M2 Data",
+                    .grid = "GridM2",
+                    .records = 9,
+                    .columns = 2 + ShiftKinds},
+                   cmdData, cmdCompute),
       m_m1(m1)
 {
     layOut(t1);
-    cmdCompute.setEnabled(false);
-
-    openSource(start.txtT1(1).text());
+    addSource(start.txtT1(1).text());
 
     onPress(cmdData, &frmM2::cmdData_Click);
     onPress(cmdCompute, &frmM2::cmdCompute_Click);
-    enableByTyping(cmdCompute, {&txtNLC, &txtKbeats, &txtNG, &txtSL});
-    enableByTyping(cmdCompute, txtLCN);
 }
 
 void frmM2::layOut(const frmT1& t1)
@@ -80,11 +83,6 @@ void frmM2::layOut(const frmT1& t1)
     addField(total, "Total Number of Calculated Mandays for Miscelleneous Activities - ", txtMan9, FigureWidth);
     txtMan9.setNumeric();
     txtMan9.setLocked(true);
-
-    addGrid(cmdData);
-    form.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
-    for (controls::Button* final : {&cmdPrint, &cmdNext})
-        final->setToolTip(flow::LockTip);
 }
 
 Section* frmM2::gateKeeping()
@@ -117,7 +115,7 @@ void frmM2::cmdData_Click()
     txtKbeats.setText(cell(5, 2));
     txtNG.setText(cell(7, 2));
     txtSL.setText(cell(9, 2));
-    finishImport(cmdCompute);
+    finishImport();
 }
 
 // Not always whole; what is more than the most is rewritten.
@@ -154,5 +152,5 @@ void frmM2::cmdCompute_Click()
     setText(txtMan9, picture(TotalMandays, "#####"));
     for (TextBox* entered : {&txtNLC, &txtKbeats, &txtNG, &txtSL})
         entered->setLocked(true);
-    finishCompute(cmdCompute);
+    finishCompute();
 }

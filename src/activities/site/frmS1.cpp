@@ -50,14 +50,19 @@ Section* section(const QString& heading, BoxLines* lengths, TextBox& mandays)
 }  // namespace
 
 frmS1::frmS1(flow::Chain& owner, const frmStart& start, const frmT1& t1)
-    : ImportScreen(owner, "frmS1", "Data Entry for Site Specefic Activiries 'S'", "S1", "S1 Data", "GridS1")
+    : ImportScreen(owner,
+                   {.form = "frmS1",
+                    .caption = "Data Entry for Site Specefic Activiries 'S'",
+                    .table = "S1",
+                    .source = "S1 Data",
+                    .grid = "GridS1",
+                    .records = CurvesRow,
+                    .columns = FirstColumn + TrackCounts - 1},
+                   cmdData, cmdCompute)
 {
     layOut(t1);
-    cmdCompute.setEnabled(false);
+    addSource(start.txtT1(1).text());
 
-    openSource(start.txtT1(1).text());
-
-    enableByTyping(cmdCompute, txtND);
     onPress(cmdData, &frmS1::cmdData_Click);
     onPress(cmdCompute, &frmS1::cmdCompute_Click);
 }
@@ -80,11 +85,6 @@ void frmS1::layOut(const frmT1& t1)
     down->addWidget(structures(2, "S.3- Long Girder Maintenance -",
                                "Length of Bridges in Metres- (Lineal Waterway more than 150 metres) ", txtMan12));
     down->addWidget(sharpCurves());
-
-    addGrid(cmdData);
-    form.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
-    for (controls::Button* final : {&cmdPrint, &cmdNext})
-        final->setToolTip(flow::LockTip);
 }
 
 Section* frmS1::structures(int kind, const QString& heading, const QString& lengthCaption, TextBox& result)
@@ -128,7 +128,7 @@ void frmS1::cmdData_Click()
     for (int i = 0; i < Curves; ++i)
         txtND(i).setText(cell(RowOfKind[static_cast<std::size_t>(i / TrackCounts)], FirstColumn + i % TrackCounts));
     txtND(Curves).setText(cell(CurvesRow, FirstColumn));
-    finishImport(cmdCompute);
+    finishImport();
 }
 
 float frmS1::lengthOf(int i) const
@@ -161,5 +161,5 @@ void frmS1::cmdCompute_Click()
     setText(txtMan11, picture(mandays.bridges, "#####"));
     setText(txtMan12, picture(mandays.longGirders, "#####"));
     setText(txtMan13, picture(mandays.sharpCurves, "#####"));
-    finishCompute(cmdCompute);
+    finishCompute();
 }

@@ -78,20 +78,23 @@ void addCount(Section& section, const QString& caption, TextBox& count, const QS
 }  // namespace
 
 frmS2::frmS2(flow::Chain& owner, const frmStart& start, const frmT1& t1, const frmS1& s1)
-    : ImportScreen(owner, "frmS2", "Data Entry for Site Specefic Activities 'S' (Continued)", "S2", "S2 Data",
-                   "GridS2"),
+    : ImportScreen(owner,
+                   {.form = "frmS2",
+                    .caption = "Data Entry for Site Specefic Activities 'S' (Continued)",
+                    .table = "S2",
+                    .source = "S2 Data",
+                    .grid = "GridS2",
+                    .records = 17,
+                    .columns = 21},  // the last four are the summary's
+                   cmdData, cmdCompute),
       m_s1(s1)
 {
     layOut(t1);
-    cmdCompute.setEnabled(false);
-
-    openSource(start.txtT1(1).text());
+    addSource(start.txtT1(1).text());
 
     onChange(txtTB1, &frmS2::txtTB1_Change);
     onChange(txtTB2, &frmS2::txtTB2_Change);
     onChange(txtTB4, &frmS2::txtTB4_Change);
-    enableByTyping(cmdCompute, {&txtTB1, &txtTB2, &txtTB3, &txtTB4});
-    enableByTyping(cmdCompute, txtND);
     onPress(cmdData, &frmS2::cmdData_Click);
     onPress(cmdCompute, &frmS2::cmdCompute_Click);
 }
@@ -127,11 +130,6 @@ void frmS2::layOut(const frmT1& t1)
     controls::addField(sum, "Total Number of Calculated Mandays for 'S' Activities - ", txtMan20, ResultCharacters);
     txtMan20.setNumeric();
     txtMan20.setLocked(true);
-
-    addGrid(cmdData);
-    form.buttons({&cmdData, &cmdCompute, &cmdPrint, &cmdNext});
-    for (controls::Button* final : {&cmdPrint, &cmdNext})
-        final->setToolTip(flow::LockTip);
 }
 
 Section* frmS2::badFormations()
@@ -244,7 +242,7 @@ void frmS2::cmdData_Click()
           Block{SecurityYears, Shifts - 1, 13}, Block{Shifts, Days - 1, 16}, Block{Days, Values - 1, 17}})
         for (int i = block.first; i <= block.last; ++i)
             txtND(i).setText(cell(block.row, 3 + i - block.first));
-    finishImport(cmdCompute);
+    finishImport();
 }
 
 std::array<float, frmS2::Values> frmS2::readValues()
@@ -290,5 +288,5 @@ void frmS2::cmdCompute_Click()
     setText(txtMan20, picture(TotalMandays, "####"));
     for (TextBox* count : {&txtTB1, &txtTB2, &txtTB3, &txtTB4})
         count->setLocked(true);
-    finishCompute(cmdCompute);
+    finishCompute();
 }

@@ -33,13 +33,8 @@ public:
     }
 
     /// Throws RunTimeError (subscript) for an element that does not exist.
-    Box& operator()(int index) const
-    {
-        if (!has(index))
-            throw figures::RunTimeError(figures::ErrorKind::SubscriptOutOfRange,
-                                        m_name.toStdString() + " has no element " + std::to_string(index));
-        return *m_boxes[static_cast<std::size_t>(index)];
-    }
+    Box& operator()(int index) { return *m_boxes[checked(index)]; }
+    const Box& operator()(int index) const { return *m_boxes[checked(index)]; }
 
     bool has(int index) const { return index >= 0 && index < size() && m_boxes[static_cast<std::size_t>(index)]; }
 
@@ -47,6 +42,14 @@ public:
     int size() const { return static_cast<int>(m_boxes.size()); }
 
 private:
+    std::size_t checked(int index) const
+    {
+        if (!has(index))
+            throw figures::RunTimeError(figures::ErrorKind::SubscriptOutOfRange,
+                                        m_name.toStdString() + " has no element " + std::to_string(index));
+        return static_cast<std::size_t>(index);
+    }
+
     std::unique_ptr<Box> make(int index) const
     {
         return std::make_unique<Box>(QString("%1(%2)").arg(m_name).arg(index));

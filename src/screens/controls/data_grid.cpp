@@ -15,8 +15,6 @@ namespace controls {
 
 namespace {
 
-constexpr int RecordsTaken = 17;  // the most that any screen takes
-constexpr int ColumnsTaken = 21;
 constexpr int FewestRecordsSeen = 3;
 constexpr int WidestColumn = 220;  // [px]; a memo may be longer
 constexpr int RecordsOnAnyDesktop = 10'000;
@@ -67,7 +65,8 @@ private:
     const store::Table& m_table;
 };
 
-DataGrid::DataGrid(const QString& name) : m_model(new Model(*this))
+DataGrid::DataGrid(const QString& name, int records, int columns)
+    : m_records(records), m_columns(columns), m_model(new Model(*this))
 {
     setObjectName(name);
     setModel(m_model);
@@ -79,7 +78,7 @@ DataGrid::DataGrid(const QString& name) : m_model(new Model(*this))
     verticalHeader()->setDefaultSectionSize(line);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    horizontalHeader()->setResizeContentsPrecision(RecordsTaken);
+    horizontalHeader()->setResizeContentsPrecision(m_records);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setSizePolicy(policy);
 }
@@ -123,9 +122,9 @@ int DataGrid::heightOf(int records) const
 QSize DataGrid::wholeSize() const
 {
     int width = verticalHeader()->sizeHint().width() + 2 * frameWidth();
-    for (int i = 0; i < std::min(m_model->columnCount(), ColumnsTaken); ++i)
+    for (int i = 0; i < std::min(m_model->columnCount(), m_columns); ++i)
         width += columnWidth(i);
-    return {width, heightOf(std::min(m_model->rowCount(), RecordsTaken))};
+    return {width, heightOf(std::min(m_model->rowCount(), m_records))};
 }
 
 QSize DataGrid::sizeHint() const

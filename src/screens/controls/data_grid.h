@@ -9,14 +9,15 @@ namespace controls {
 /// into view, so that 20,000 records cost nothing. Ctrl+C copies the selected cells in a spreadsheet's form.
 class DataGrid : public QTableView {
 public:
-    explicit DataGrid(const QString& name);
+    /// `records` and `columns` of the table are those that the screen takes: so much of it is printed.
+    DataGrid(const QString& name, int records, int columns);
 
     void setTable(store::Table table);
 
     /// A cell's text. Throws RunTimeError (subscript) that names what is missing.
     QString TextMatrix(int row, int column) const;
 
-    /// Size at which all cells are seen, or as many records and columns as any screen takes [px].
+    /// Size at which all cells are seen, or as many records and columns as the screen takes [px].
     QSize wholeSize() const;
 
     QSize sizeHint() const override;
@@ -33,6 +34,8 @@ private:
     void fitHeight();
     void copySelection() const;
 
+    int m_records;
+    int m_columns;
     store::Table m_table;
     Model* m_model;
 };

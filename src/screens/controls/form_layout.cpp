@@ -97,14 +97,9 @@ FormLayout::FormLayout(QWidget& form, const QString& title) : m_form(new QVBoxLa
     large.setBold(true);
     label->setFont(large);
     m_header->addWidget(label);
-    m_down->addWidget(addPart(header));
+    m_down->addWidget(header);
+    m_parts.append({.widget = header});
     m_down->addStretch(0);
-}
-
-QWidget* FormLayout::addPart(QWidget* part)
-{
-    m_parts.append(part);
-    return part;
 }
 
 QHBoxLayout& FormLayout::headerLine()
@@ -115,18 +110,19 @@ QHBoxLayout& FormLayout::headerLine()
     return *line;
 }
 
-void FormLayout::scroll(QWidget* content)
+QScrollArea* FormLayout::scroll(QWidget* content, RowSheet* rows)
 {
     auto* scroller = new Scroller;
     scroller->setObjectName("rows");
-    fill(*scroller, addPart(content));
+    fill(*scroller, content);
     m_down->insertWidget(m_down->count() - 1, scroller);
+    m_parts.append({.widget = content, .area = scroller, .rows = rows});
+    return scroller;
 }
 
 void FormLayout::addRows(RowSheet* rows)
 {
-    scroll(rows);
-    auto* area = qobject_cast<QScrollArea*>(rows->parentWidget()->parentWidget());
+    const QScrollArea* area = scroll(rows, rows);
     QObject::connect(area->verticalScrollBar(), &QScrollBar::valueChanged, rows, &RowSheet::pinHeadings);
 }
 
@@ -155,9 +151,10 @@ void FormLayout::sections(std::initializer_list<std::initializer_list<Section*>>
     }
 }
 
-void FormLayout::addBelow(QWidget* widget)
+void FormLayout::addBelow(QWidget* widget, DataGrid* grid)
 {
-    m_down->insertWidget(m_down->count() - 1, addPart(widget));
+    m_down->insertWidget(m_down->count() - 1, widget);
+    m_parts.append({.widget = widget, .grid = grid});
 }
 
 QHBoxLayout& FormLayout::lineBelow()
@@ -179,7 +176,8 @@ void FormLayout::buttons(std::initializer_list<Button*> buttons)
     line->addStretch();
     for (Button* button : buttons)
         line->addWidget(button);
-    m_form->addWidget(addPart(holder));
+    m_form->addWidget(holder);
+    m_parts.append({.widget = holder});
 }
 
 int widthOf(const QWidget& box, int characters)

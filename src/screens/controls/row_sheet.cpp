@@ -16,14 +16,6 @@ RowSheet::RowSheet(const QString& noun, int rows) : m_noun(noun), m_rows(rows), 
     m_band->setAutoFillBackground(true);
 }
 
-Caption& RowSheet::heading(const QString& text, int span)
-{
-    auto* label = new Caption(text, m_band);
-    label->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-    m_headings.push_back({label, static_cast<int>(m_columns.size()), span});
-    return *label;
-}
-
 void RowSheet::withTotalRow(const QString& caption)
 {
     m_totalRow = true;
@@ -34,10 +26,62 @@ void RowSheet::withTotalRow(const QString& caption)
     m_totalCaption->hide();
 }
 
-RowSheet::Column& RowSheet::addColumn(int characters, const QString& part)
+RowSheet& RowSheet::heading(const QString& text, int span, const QList<QStringList>& lines)
 {
-    m_columns.push_back({{}, characters, part});
-    return m_columns.back();
+    auto* label = new Caption(text, m_band);
+    label->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    if (!lines.isEmpty())
+        label->setLines(lines);
+    m_headings.push_back({label, static_cast<int>(m_columns.size()), span});
+    return *this;
+}
+
+template <class Box, class Prepare>
+RowSheet& RowSheet::addColumn(ControlArray<Box>& boxes, int characters, const QString& part, Prepare prepare)
+{
+    Column column{{}, characters, part};
+    for (int i = 0; i < m_rows + (m_totalRow ? 1 : 0); ++i) {
+        Box* box = boxes.has(i) ? &boxes(i) : nullptr;
+        if (box)
+            prepare(*box);
+        if (box && i == m_rows)
+            box->setLocked(true);
+        column.boxes.push_back(box);
+    }
+    m_columns.push_back(std::move(column));
+    return *this;
+}
+
+RowSheet& RowSheet::entry(ControlArray<TextBox>& figures, int characters, const QString& part)
+{
+    return addColumn(figures, characters, part, [](TextBox& box) { box.setNumeric(); });
+}
+
+RowSheet& RowSheet::textEntry(ControlArray<TextBox>& texts, int characters)
+{
+    return addColumn(texts, characters, {}, [](TextBox&) {});
+}
+
+RowSheet& RowSheet::choice(ControlArray<ComboBox>& boxes, int characters, const QStringList& choices,
+                           const QString& preset)
+{
+    return addColumn(boxes, characters, {}, [&](ComboBox& box) {
+        box.addItems(choices);
+        box.setText(preset);
+    });
+}
+
+RowSheet& RowSheet::result(ControlArray<TextBox>& figures, int characters, const QString& part)
+{
+    return addColumn(figures, characters, part, [](TextBox& box) {
+        box.setNumeric();
+        box.setLocked(true);
+    });
+}
+
+RowSheet& RowSheet::textResult(ControlArray<TextBox>& texts, int characters)
+{
+    return addColumn(texts, characters, {}, [](TextBox& box) { box.setLocked(true); });
 }
 
 QString RowSheet::spokenName(std::size_t column, int row) const
@@ -53,20 +97,44 @@ QString RowSheet::spokenName(std::size_t column, int row) const
 
 void RowSheet::finish()
 {
-    // A box joins the order of tabulation and of reading where it gets its parent: row by row.
+    // A box joins the tab order and the screen reader's order where it gets its parent: row by row.
     for (int row = 0; row < m_rows + (m_totalRow ? 1 : 0); ++row) {
         for (std::size_t column = 0; column < m_columns.size(); ++column) {
             QWidget* box = m_columns[column].boxes[static_cast<std::size_t>(row)];
             if (!box)
                 continue;
-            const bool hidden = box->testAttribute(Qt::WA_WState_ExplicitShowHide) && box->isHidden();
             box->setParent(this);
-            box->setVisible(!hidden);
+            box->setVisible(row == m_rows ? m_totalShown : row < m_shownRows);
             box->setAccessibleName(spokenName(column, row));
         }
     }
     m_band->raise();
     layOut();
+}
+
+void RowSheet::showRows(int count)
+{
+    m_shownRows = std::clamp(count, 0, m_rows);
+    for (int row = 0; row < m_rows; ++row)
+        for (const Column& column : m_columns)
+            if (QWidget* box = column.boxes[static_cast<std::size_t>(row)])
+                box->setVisible(row < m_shownRows);
+}
+
+void RowSheet::showTotal()
+{
+    m_totalShown = true;
+    for (QWidget* box : totalBoxes())
+        box->setVisible(true);
+}
+
+std::vector<QWidget*> RowSheet::totalBoxes() const
+{
+    std::vector<QWidget*> boxes;
+    for (const Column& column : m_columns)
+        if (m_totalRow && column.boxes.back())
+            boxes.push_back(column.boxes.back());
+    return boxes;
 }
 
 void RowSheet::setTotalPlace(double place)
@@ -90,21 +158,9 @@ int RowSheet::narrowest(const Column& column) const
     return column.characters * fontMetrics().horizontalAdvance('0') + 14;
 }
 
-double RowSheet::placesInUse() const
+double RowSheet::totalPlace() const
 {
-    int shown = 0;
-    for (int row = 0; row < m_rows; ++row)
-        for (const Column& column : m_columns)
-            if (const QWidget* box = column.boxes[static_cast<std::size_t>(row)]; box && !box->isHidden())
-                shown = row + 1;
-    return shown;
-}
-
-bool RowSheet::totalShown() const
-{
-    return m_totalRow && std::any_of(m_columns.begin(), m_columns.end(), [](const Column& column) {
-               return column.boxes.back() && !column.boxes.back()->isHidden();
-           });
+    return m_totalPlace >= 0 ? m_totalPlace : m_shownRows;
 }
 
 std::vector<int> RowSheet::columnEdges() const
@@ -158,7 +214,7 @@ void RowSheet::layOutTotalCaption(const std::vector<int>& edges, int top)
     while (columns < m_columns.size() && !m_columns[columns].boxes.back())
         ++columns;
     m_totalCaption->setGeometry(edges[0], top, edges[columns] - edges[0] - 3 * Gap, rowHeight() - 1);
-    m_totalCaption->setVisible(totalShown());
+    m_totalCaption->setVisible(m_totalShown);
 }
 
 void RowSheet::layOut()
@@ -167,19 +223,18 @@ void RowSheet::layOut()
         return;
     const std::vector<int> edges = columnEdges();
     layOutHeadings(edges);
-    const double totalPlace = m_totalPlace >= 0 ? m_totalPlace : placesInUse();
     for (std::size_t c = 0; c < m_columns.size(); ++c) {
         for (int row = 0; row < static_cast<int>(m_columns[c].boxes.size()); ++row) {
             QWidget* box = m_columns[c].boxes[static_cast<std::size_t>(row)];
             if (!box || box->isHidden())
                 continue;
-            const double place = row == m_rows ? totalPlace : row;
+            const double place = row == m_rows ? totalPlace() : row;
             box->setGeometry(edges[c], m_headingHeight + static_cast<int>(place * rowHeight()),
                              edges[c + 1] - edges[c] - Gap, rowHeight() - 1);
         }
     }
     if (m_totalCaption)
-        layOutTotalCaption(edges, m_headingHeight + static_cast<int>(totalPlace * rowHeight()));
+        layOutTotalCaption(edges, m_headingHeight + static_cast<int>(totalPlace() * rowHeight()));
     setMinimumHeight(sizeHint().height());
     updateGeometry();
 }
@@ -197,9 +252,9 @@ QSize RowSheet::sizeHint() const
     int needed = 0;
     for (const Column& column : m_columns)
         needed += narrowest(column) + Gap;
-    double places = placesInUse();
-    if (totalShown())
-        places = std::max(places, m_totalPlace >= 0 ? m_totalPlace : places) + 1;
+    double places = m_shownRows;
+    if (m_totalShown)
+        places = std::max(places, totalPlace()) + 1;
     return {needed, m_headingHeight + static_cast<int>(places * rowHeight()) + 1};
 }
 

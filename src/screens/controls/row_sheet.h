@@ -9,34 +9,43 @@
 
 namespace controls {
 
-/// Rows of boxes under headings: row i is made of elements i of its columns' arrays. Hidden rows take no room, extra
-/// width goes to the columns alike, and the headings stay in view while the rows scroll.
+/// Rows of boxes under headings: row i is made of elements i of its columns' arrays. A column is declared once, with
+/// all that its boxes are. Rows start hidden; hidden rows take no room, extra width goes to the columns alike, and the
+/// headings stay in view while the rows scroll.
 class RowSheet : public QWidget {
 public:
-    /// `noun` names a row to people who listen ("Km From, segment 3"); elements 0 to rows - 1 are laid out.
+    /// `noun` names a row to screen readers ("Km From, segment 3"); elements 0 to rows - 1 are laid out.
     RowSheet(const QString& noun, int rows);
 
-    /// A heading over the next `span` columns; under an earlier one that spans their first, if there is one.
-    Caption& heading(const QString& text, int span = 1);
-
-    /// The next column, `characters` wide. `part` tells apart columns under one heading ("turnouts").
-    template <class Box>
-    void column(const ControlArray<Box>& boxes, int characters, const QString& part = {})
-    {
-        Column& added = addColumn(characters, part);
-        for (int i = 0; i < m_rows + (m_totalRow ? 1 : 0); ++i)
-            added.boxes.push_back(boxes.has(i) ? &boxes(i) : nullptr);
-    }
-
-    /// One row more, of elements `rows`, under the last row shown. To be called before the columns.
-    /// `caption` stands in the columns before the first that has a total.
+    /// One row more, of elements `rows`, under the last row shown: locked, and hidden until showTotal. To be called
+    /// before the columns. `caption` stands in the columns before the first that has a total.
     void withTotalRow(const QString& caption = {});
+
+    /// A heading over the next `span` columns; under an earlier one that spans their first, if there is one. `lines`
+    /// are those of Caption::setLines.
+    RowSheet& heading(const QString& text, int span = 1, const QList<QStringList>& lines = {});
+
+    // The next column, its boxes `characters` wide. `part` tells apart columns under one heading ("turnouts").
+    RowSheet& entry(ControlArray<TextBox>& figures, int characters, const QString& part = {});
+    RowSheet& textEntry(ControlArray<TextBox>& texts, int characters);
+    /// `preset` stands in the boxes until the user or an import chooses one of `choices`, or another text.
+    RowSheet& choice(ControlArray<ComboBox>& boxes, int characters, const QStringList& choices, const QString& preset);
+    /// Computed, or taken from an earlier screen: locked.
+    RowSheet& result(ControlArray<TextBox>& figures, int characters, const QString& part = {});
+    RowSheet& textResult(ControlArray<TextBox>& texts, int characters);
+
+    /// To be called once, after the last column: takes the boxes in, in reading order.
+    void finish();
+
+    /// Shows the first `count` rows and hides the others, which keep what they hold.
+    void showRows(int count);
+    int shownRows() const { return m_shownRows; }
+
+    void showTotal();
+    std::vector<QWidget*> totalBoxes() const;
 
     /// The total row's place, counted in rows from the first; it then no longer follows the rows shown.
     void setTotalPlace(double place);
-
-    /// To be called once, behind the last column: takes the boxes in, in reading order.
-    void finish();
 
     /// Keeps the headings in view after the sheet was scrolled down by `scrolled` pixels.
     void pinHeadings(int scrolled);
@@ -62,12 +71,12 @@ private:
         int span;
     };
 
-    Column& addColumn(int characters, const QString& part);
+    template <class Box, class Prepare>
+    RowSheet& addColumn(ControlArray<Box>& boxes, int characters, const QString& part, Prepare prepare);
     QString spokenName(std::size_t column, int row) const;
     int narrowest(const Column& column) const;
     int rowHeight() const;
-    double placesInUse() const;
-    bool totalShown() const;
+    double totalPlace() const;
     std::vector<int> columnEdges() const;
     void layOutHeadings(const std::vector<int>& edges);
     void layOutTotalCaption(const std::vector<int>& edges, int top);
@@ -75,7 +84,9 @@ private:
 
     QString m_noun;
     int m_rows;
+    int m_shownRows = 0;
     bool m_totalRow = false;
+    bool m_totalShown = false;
     Caption* m_totalCaption = nullptr;
     double m_totalPlace = -1.0;
     QWidget* m_band;  // the headings, opaque, above the rows that scroll under them

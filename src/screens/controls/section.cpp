@@ -63,7 +63,7 @@ BoxLines::BoxLines(const QString& noun) : m_noun(noun), m_grid(new QGridLayout(t
     m_grid->setColumnMinimumWidth(1, Spacing - Gap);  // the boxes stand off their caption as those of fields do
 }
 
-Caption& BoxLines::line(const QString& caption, const ControlArray<TextBox>& boxes, int first, int last, int characters)
+Caption& BoxLines::line(const QString& caption, ControlArray<TextBox>& boxes, int first, int last, int characters)
 {
     const int row = m_grid->rowCount();
     auto* label = new Caption(caption);
@@ -71,11 +71,9 @@ Caption& BoxLines::line(const QString& caption, const ControlArray<TextBox>& box
     m_grid->addWidget(label, row, 0);
     for (int i = first; i <= last; ++i) {
         TextBox& box = boxes(i);
-        const bool hidden = box.testAttribute(Qt::WA_WState_ExplicitShowHide) && box.isHidden();
         box.setFixedWidth(widthOf(box, characters));
         box.setAccessibleName(QString("%1, %2 %3").arg(label->spoken(), m_noun).arg(i - first + 1));
         m_grid->addWidget(&box, row, FirstBox + i - first);
-        box.setVisible(!hidden);
     }
     m_grid->setColumnStretch(FirstBox + last - first + 1, 1);  // the boxes stand together at the left
     return *label;

@@ -18,10 +18,10 @@ public:
     QHBoxLayout& line();
     void add(QWidget* rows);
 
-    /// The activity's result at the right end of a line: locked, and named after the activity to people who listen.
+    /// The activity's result at the right end of a line: locked, and named after the activity to screen readers.
     Caption& addResult(QHBoxLayout& line, const QString& caption, TextBox& box, int characters);
 
-    /// Adds the activity to the box's spoken name, where another activity has a box of the same caption.
+    /// Adds the activity to the box's accessible name, where another activity has a box of the same caption.
     void nameAfterActivity(TextBox& box) const;
 
     /// Enables or disables all but the heading, which says in either case what this is about.
@@ -32,14 +32,14 @@ private:
     Caption* m_heading;
 };
 
-/// Lines of boxes side by side behind their captions, the boxes of one place (gang, location) under each other.
+/// Lines of boxes side by side after their captions, the boxes of one gang or location under each other.
 class BoxLines : public QWidget {
 public:
-    /// `noun` names a place to people who listen ("..., gang 3").
+    /// `noun` names a column of boxes to screen readers ("..., gang 3").
     explicit BoxLines(const QString& noun);
 
     /// Elements `first` to `last`, each `characters` wide. The caption is returned for what else is to be done with it.
-    Caption& line(const QString& caption, const ControlArray<TextBox>& boxes, int first, int last, int characters);
+    Caption& line(const QString& caption, ControlArray<TextBox>& boxes, int first, int last, int characters);
 
 private:
     QString m_noun;

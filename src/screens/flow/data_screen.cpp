@@ -20,14 +20,17 @@ bool DataScreen::mayLeave()
     return !stay;
 }
 
-StepScreen::StepScreen(Chain& owner, const QString& name, const QString& caption) : DataScreen(owner, name, caption)
+StepScreen::StepScreen(Chain& owner, const QString& name, const QString& caption, controls::Button& computeButton)
+    : DataScreen(owner, name, caption), compute(computeButton)
 {
-    cmdNext.setEnabled(false);
-    cmdPrint.setEnabled(false);
+    for (controls::Button* button : {&cmdNext, &cmdPrint}) {
+        button->setEnabled(false);
+        button->setToolTip(LockTip);
+    }
     onPress(cmdNext, &StepScreen::cmdNext_Click);
 }
 
-void StepScreen::finishCompute(controls::Button& compute)
+void StepScreen::finishCompute()
 {
     cmdNext.setEnabled(true);
     cmdPrint.setEnabled(true);
@@ -47,24 +50,27 @@ void StepScreen::cmdNext_Click()
         chain.showNextAfter(*this);
 }
 
-ImportScreen::ImportScreen(Chain& owner, const QString& name, const QString& caption, const QString& tableName,
-                           const QString& sourceCaption, const QString& gridName)
-    : StepScreen(owner, name, caption),
-      grid(gridName),
-      m_tableName(tableName),
-      m_sourceCaption(sourceCaption),
+ImportScreen::ImportScreen(Chain& owner, const Setup& setup, controls::Button& importButton,
+                           controls::Button& computeButton)
+    : StepScreen(owner, setup.form, setup.caption, computeButton),
+      grid(setup.grid, setup.records, setup.columns),
+      m_tableName(setup.table),
+      m_sourceCaption(setup.source),
+      m_import(importButton),
+      m_opensCompute(setup.opensCompute),
       m_message(new QLabel(this))
 {
     m_message->setTextFormat(Qt::PlainText);
     m_message->setWordWrap(true);
-    grid.setAccessibleName(sourceCaption);
+    grid.setAccessibleName(m_sourceCaption);
 }
 
-void ImportScreen::addGrid(controls::Button& import)
+void ImportScreen::addSource(const QString& path)
 {
-    m_import = &import;
-    auto* place = new QWidget;
-    auto* down = new QVBoxLayout(place);
+    if (m_opensCompute)
+        openComputeByTyping();
+    auto* panel = new QWidget;
+    auto* down = new QVBoxLayout(panel);
     down->setContentsMargins(0, 0, 0, 0);
     down->setSpacing(2);
     auto* line = new QHBoxLayout;
@@ -77,13 +83,16 @@ void ImportScreen::addGrid(controls::Button& import)
     down->addLayout(line);
     down->addWidget(&grid, 1);
     down->addStretch();  // the table stands right under its title, however much room there is
-    QSizePolicy rest = place->sizePolicy();
+    QSizePolicy rest = panel->sizePolicy();
     rest.setVerticalStretch(1);  // what the rows leave is the table's
-    place->setSizePolicy(rest);
-    form.addBelow(place);
+    panel->setSizePolicy(rest);
+    form.addBelow(panel, &grid);
+    form.buttons({&m_import, &compute, &cmdPrint, &cmdNext});
+    compute.setEnabled(false);
+    readSource(path);
 }
 
-void ImportScreen::openSource(const QString& path)
+void ImportScreen::readSource(const QString& path)
 {
     m_path = path;
     m_reason.clear();
@@ -104,7 +113,7 @@ void ImportScreen::openSource(const QString& path)
     if (!m_reason.isEmpty())
         return;
     grid.setTable(std::move(reading.table));
-    setDefaultButton(m_import);
+    setDefaultButton(&m_import);
 }
 
 void ImportScreen::setHint(const QString& advice)
@@ -132,7 +141,7 @@ void ImportScreen::onShownAgain()
     const QString& path = chain.srSe().dataFile;
     if (cmdNext.isEnabled() || path.trimmed().isEmpty() || path == m_path)
         return;
-    openSource(path);
+    readSource(path);
     onFirstShown();
 }
 
@@ -140,33 +149,25 @@ void ImportScreen::finishImport()
 {
     m_importedFrom = m_path;
     updateMessage();
-}
-
-void ImportScreen::finishImport(controls::Button& compute)
-{
-    finishImport();
-    m_computeOpened = true;
-    compute.setEnabled(true);
+    if (m_opensCompute) {
+        m_computeOpened = true;
+        compute.setEnabled(true);
+    }
     focusDefault(compute);
 }
 
-void ImportScreen::enableByTyping(controls::Button& compute, std::initializer_list<controls::TextBox*> boxes)
+// The first keystroke in any box, unless an import has opened Compute already: typing never opens it a second time,
+// when the figures have been computed.
+void ImportScreen::openComputeByTyping()
 {
-    for (controls::TextBox* box : boxes)
-        connect(box, &QLineEdit::textEdited, this, [this, &compute] {
+    for (const auto* box : findChildren<QLineEdit*>())
+        connect(box, &QLineEdit::textEdited, this, [this] {
             if (m_computeOpened)
                 return;
             m_computeOpened = true;
             compute.setEnabled(true);
             setDefaultButton(&compute);
         });
-}
-
-void ImportScreen::enableByTyping(controls::Button& compute, const controls::ControlArray<controls::TextBox>& boxes)
-{
-    for (int i = 0; i < boxes.size(); ++i)
-        if (boxes.has(i))
-            enableByTyping(compute, {&boxes(i)});
 }
 
 }  // namespace flow

@@ -8,7 +8,7 @@ class QLabel;
 
 namespace flow {
 
-/// A screen with figures on it: it knows whether it has been printed, and reminds the user of it.
+/// A screen with figures on it, which reminds the user to print it.
 class DataScreen : public Screen {
 public:
     std::int16_t Printed = 0;  ///< 1 once Print has run to its end; never cleared
@@ -29,45 +29,49 @@ public:
     controls::Button cmdNext{"cmdNext", "&Next"};
 
 protected:
-    StepScreen(Chain& chain, const QString& name, const QString& caption);
+    /// `computeButton` is a member of the form: kept, not used, until the form is constructed.
+    StepScreen(Chain& chain, const QString& name, const QString& caption, controls::Button& computeButton);
 
-    /// A Compute that ended well: Next and Print are open, Compute is done for this Sr SE, and the user goes on to
-    /// print.
-    void finishCompute(controls::Button& compute);
+    /// After a Compute that ended well: Next and Print are open, Compute is done for this Sr SE, and the user goes on
+    /// to print.
+    void finishCompute();
 
     /// With the sheet printed, the user goes on to Next.
     void onPrinted() override;
 
     void cmdNext_Click();
+
+    controls::Button& compute;
 };
 
 /// A step whose boxes can be filled from the Sr SE's data file.
 class ImportScreen : public StepScreen {
 protected:
-    /// `tableName` in the data file, shown under `sourceCaption` in the grid `gridName`.
-    ImportScreen(Chain& chain, const QString& name, const QString& caption, const QString& tableName,
-                 const QString& sourceCaption, const QString& gridName);
+    struct Setup {
+        QString form;              ///< object name of the screen
+        QString caption;           ///< of the screen
+        QString table;             ///< of the data file
+        QString source;            ///< caption of the table on the screen
+        QString grid;              ///< object name of the grid that shows the table
+        int records;               ///< of the table that the screens take
+        int columns;               ///< of the table that the screens take
+        bool opensCompute = true;  ///< an import or the first keystroke opens Compute; if not, the form does
+    };
 
-    /// Puts the grid with its heading under the rows; `import` takes its figures over.
-    void addGrid(controls::Button& import);
+    /// The buttons are members of the form: kept, not used, until the form is constructed.
+    ImportScreen(Chain& chain, const Setup& setup, controls::Button& importButton, controls::Button& computeButton);
 
-    /// Reads the table of the data file at `path` into the grid. What goes wrong is told once, when the screen is there
-    /// to be seen, and stays to be read in the grid's place: the boxes can be typed all the same.
-    void openSource(const QString& path);
+    /// To be called once, when all boxes are laid out: puts the grid with its heading and the buttons under them, and
+    /// reads the table of the data file at `path`. A failure is reported once, when the screen first shows, and stays
+    /// visible where the grid would be. Figures can still be typed.
+    void addSource(const QString& path);
 
     /// What is to be done before the import opens, "" for nothing; beside the table's title, where a remark on the file
     /// itself goes first.
     void setHint(const QString& advice);
 
-    /// The first keystroke in one of the boxes opens Compute, unless an import has done so already: typing never
-    /// opens it a second time, when the figures have been computed.
-    void enableByTyping(controls::Button& compute, std::initializer_list<controls::TextBox*> boxes);
-    void enableByTyping(controls::Button& compute, const controls::ControlArray<controls::TextBox>& boxes);
-
-    /// To be called by every import that ended well.
+    /// To be called by every import that ended well: Compute is next.
     void finishImport();
-    /// The same where Compute waits for it: Compute is next.
-    void finishImport(controls::Button& compute);
 
     /// A cell of the grid as text.
     QString cell(int row, int column) const { return grid.TextMatrix(row, column); }
@@ -80,18 +84,21 @@ protected:
     controls::DataGrid grid;
 
 private:
+    void readSource(const QString& path);
+    void openComputeByTyping();
     void updateMessage();
 
     QString m_tableName;
     QString m_sourceCaption;
+    controls::Button& m_import;
+    bool m_opensCompute;
+    bool m_computeOpened = false;
     QLabel* m_message;
     QString m_path;    // of the file that was read
     QString m_reason;  // why it could not be
     QString m_remark;  // on the file
     QString m_hint;
     QString m_importedFrom;
-    const controls::Button* m_import = nullptr;
-    bool m_computeOpened = false;
 };
 
 }  // namespace flow

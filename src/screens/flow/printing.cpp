@@ -180,10 +180,13 @@ void checkWritten(const QPrinter& printer)
 
 }  // namespace
 
-void printForm(QWidget& form, const QList<QWidget*>& parts, QPrinter& printer, int copies)
+void printForm(QWidget& form, const QList<controls::FormLayout::Part>& formParts, QPrinter& printer, int copies)
 {
     if (copies <= 0)
         return;
+    QList<QWidget*> parts;
+    for (const controls::FormLayout::Part& part : formParts)
+        parts.append(part.widget);
     const LaidOutForPaper paper(form, parts);
     QSize whole(paper.width(), -Gap);
     for (const QWidget* part : parts)

@@ -1,6 +1,8 @@
 #include "screens/controls/control_array.h"
 
 #include <gtest/gtest.h>
+#include <type_traits>
+#include <utility>
 
 #include "screens/controls/text_box.h"
 
@@ -23,13 +25,21 @@ std::string errorOf(const ControlArray<TextBox>& boxes, int index)
 
 TEST(ControlArrayTest, ElementsBearTheArraysNameAndTheirIndex)
 {
-    const ControlArray<TextBox> boxes("txtKmf", 16);
+    ControlArray<TextBox> boxes("txtKmf", 16);
     EXPECT_EQ(boxes.size(), 16);
     EXPECT_EQ(boxes(0).objectName(), "txtKmf(0)");
     EXPECT_EQ(boxes(15).objectName(), "txtKmf(15)");
     boxes(3).setText("12.5");
     EXPECT_EQ(boxes(3).text(), "12.5");
     EXPECT_EQ(boxes(4).text(), "");
+}
+
+TEST(ControlArrayTest, AConstantArrayGivesItsElementsToRead)
+{
+    static_assert(std::is_same_v<decltype(std::declval<const ControlArray<TextBox>&>()(0)), const TextBox&>);
+    ControlArray<TextBox> boxes("txtKmf", 16);
+    boxes(3).setText("12.5");
+    EXPECT_EQ(std::as_const(boxes)(3).text(), "12.5");
 }
 
 TEST(ControlArrayTest, AnIndexOutsideIsASubscriptErrorThatNamesTheElement)

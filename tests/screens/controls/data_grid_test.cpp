@@ -48,7 +48,7 @@ protected:
         return QGuiApplication::clipboard()->text().toStdString();
     }
 
-    DataGrid grid{"TrGrid"};
+    DataGrid grid{"TrGrid", 16, 13};
 };
 
 TEST_F(Grid, TextMatrixCountsHeadingsAsRowZeroAndTheMarginAsColumnZero)
@@ -152,6 +152,17 @@ TEST_F(Grid, IsNoHigherThanItsRecords)
     grid.setTable(segments(5));
     EXPECT_EQ(grid.maximumHeight(), two + 3 * grid.verticalHeader()->defaultSectionSize());
     EXPECT_LE(grid.sizeHint().height(), grid.maximumHeight());
+}
+
+TEST_F(Grid, TakesTheRoomOfWhatTheScreenTakes)
+{
+    grid.setTable(segments(16));
+    const QSize all = grid.wholeSize();
+    grid.setTable(segments(200));
+    EXPECT_EQ(grid.wholeSize().height(), all.height());
+    DataGrid narrow("TrGrid", 16, 2);
+    narrow.setTable(segments(16));
+    EXPECT_EQ(narrow.wholeSize().width(), all.width() - grid.columnWidth(2));
 }
 
 TEST_F(Grid, AMemoDoesNotSpreadOverTheWholeTable)

@@ -30,14 +30,9 @@ protected:
     Entry()
     {
         auto* sheet = new controls::RowSheet("row", Count);
-        for (int i = 0; i < Count; ++i)
-            computed(i).setLocked(true);
-        sheet->column(from, 8);
-        sheet->column(to, 8);
-        sheet->column(method, 16);
-        sheet->column(computed, 8);
-        sheet->column(gmt, 8);
+        sheet->textEntry(from, 8).textEntry(to, 8).choice(method, 16, {}, "").textResult(computed, 8).textEntry(gmt, 8);
         sheet->finish();
+        sheet->showRows(Count);
         auto* down = new QVBoxLayout(&form);
         down->addWidget(sheet);
         down->addWidget(&compute);

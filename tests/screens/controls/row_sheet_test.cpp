@@ -20,25 +20,21 @@ protected:
 
     Rows()
     {
-        for (int i = 0; i < Count; ++i)
-            show(i, i < 3);
         sheet->withTotalRow();
-        from = &sheet->heading("Km From");
-        sheet->column(km, 8);
-        concrete = &sheet->heading("Length and no  of Eq.t/outs on conc Sleepers", 2);
-        sheet->column(length, 8, "length");
-        sheet->column(turnouts, 8, "turnouts");
+        sheet->heading("Km From").entry(km, 8);
+        sheet->heading("Length and no  of Eq.t/outs on conc Sleepers", 2)
+            .entry(length, 8, "length")
+            .entry(turnouts, 8, "turnouts");
         sheet->finish();
+        sheet->showRows(3);
+        sheet->showTotal();
         layout.addRows(sheet);
+        const auto headings = sheet->findChildren<QLabel*>();
+        from = headings[0];
+        concrete = headings[1];
         form.resize(600, 600);
         form.show();
         settle();
-    }
-
-    void show(int i, bool shown)
-    {
-        for (TextBox* box : {&km(i), &length(i), &turnouts(i)})
-            box->setVisible(shown);
     }
 
     static void settle()
@@ -56,8 +52,8 @@ protected:
     ControlArray<TextBox> length{"txtConc1", Count};
     ControlArray<TextBox> turnouts{"txtConc2", Count + 1};
     RowSheet* sheet = new RowSheet("segment", Count);
-    controls::Caption* from = nullptr;
-    controls::Caption* concrete = nullptr;
+    QLabel* from = nullptr;
+    QLabel* concrete = nullptr;
 };
 
 TEST_F(Rows, StandUnderOneAnotherInTheirColumns)
@@ -86,13 +82,11 @@ TEST_F(Rows, HiddenOnesTakeNoRoom)
 {
     const int row = km(1).y() - km(0).y();
     const int three = sheet->sizeHint().height();
-    show(3, true);
-    show(4, true);
+    sheet->showRows(5);
     settle();
     EXPECT_EQ(sheet->sizeHint().height(), three + 2 * row);
     EXPECT_EQ(km(4).y(), km(0).y() + 4 * row);
-    for (int i = 0; i < 5; ++i)
-        show(i, false);
+    sheet->showRows(0);
     settle();
     EXPECT_EQ(sheet->sizeHint().height(), three - 3 * row);
     EXPECT_EQ(km(0).isHidden(), true);
@@ -101,7 +95,7 @@ TEST_F(Rows, HiddenOnesTakeNoRoom)
 TEST_F(Rows, AreAsHighAsWhatTheyShow)
 {
     EXPECT_EQ(area().height(), sheet->sizeHint().height());
-    show(3, true);
+    sheet->showRows(4);
     settle();
     EXPECT_EQ(area().height(), sheet->sizeHint().height());
     EXPECT_EQ(area().verticalScrollBar()->maximum(), 0);
@@ -111,7 +105,7 @@ TEST_F(Rows, TheTotalStandsUnderTheLastRowShown)
 {
     const int row = km(1).y() - km(0).y();
     EXPECT_EQ(turnouts(Count).y(), km(2).y() + row);
-    show(3, true);
+    sheet->showRows(4);
     settle();
     EXPECT_EQ(turnouts(Count).y(), km(3).y() + row);
     sheet->setTotalPlace(6);
@@ -120,8 +114,7 @@ TEST_F(Rows, TheTotalStandsUnderTheLastRowShown)
 
 TEST_F(Rows, HeadingsStayInViewWhileTheRowsScroll)
 {
-    for (int i = 0; i < Count; ++i)
-        show(i, true);
+    sheet->showRows(Count);
     form.resize(600, 220);
     settle();
     ASSERT_GT(area().verticalScrollBar()->maximum(), 40);
@@ -136,8 +129,7 @@ TEST_F(Rows, HeadingsStayInViewWhileTheRowsScroll)
 
 TEST_F(Rows, ABoxThatGetsTheFocusIsInViewBelowTheHeadings)
 {
-    for (int i = 0; i < Count; ++i)
-        show(i, true);
+    sheet->showRows(Count);
     form.resize(600, 220);
     form.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
@@ -161,6 +153,50 @@ TEST_F(Rows, BoxesAreNamedAfterHeadingPartAndRow)
               "Length and no of Eq.t/outs on conc Sleepers, turnouts, segment 1");
     EXPECT_EQ(turnouts(Count).accessibleName().toStdString(),
               "Length and no of Eq.t/outs on conc Sleepers, turnouts, total");
+}
+
+// One declaration says all that the boxes of a column are.
+TEST(Columns, AreEnteredOrComputedFiguresOrTexts)
+{
+    RowSheet sheet("row", 2);
+    ControlArray<TextBox> entered("entered", 2);
+    ControlArray<TextBox> named("named", 2);
+    ControlArray<controls::ComboBox> chosen("chosen", 2);
+    ControlArray<TextBox> computed("computed", 3);
+    ControlArray<TextBox> told("told", 2);
+    sheet.withTotalRow();
+    sheet.heading("Entered", 3).entry(entered, 8).textEntry(named, 8).choice(chosen, 8, {"UP", "DN"}, "Line");
+    sheet.heading("Computed", 2).result(computed, 8).textResult(told, 8);
+    sheet.finish();
+
+    const auto isNumeric = [](const TextBox& box) { return box.alignment().testFlag(Qt::AlignRight); };
+    EXPECT_TRUE(isNumeric(entered(1)) && isNumeric(computed(1)) && isNumeric(computed(2)));
+    EXPECT_FALSE(isNumeric(named(1)) || isNumeric(told(1)));
+    EXPECT_FALSE(entered(1).isLocked() || named(1).isLocked() || chosen(1).isLocked());
+    EXPECT_TRUE(computed(1).isLocked() && computed(2).isLocked() && told(1).isLocked());
+    EXPECT_EQ(chosen(1).text(), "Line");
+    EXPECT_EQ(chosen(1).itemText(0) + chosen(1).itemText(1), "UPDN");
+
+    sheet.showRows(1);
+    for (int i = 0; i < 2; ++i)
+        for (const QWidget* box : {static_cast<QWidget*>(&entered(i)), static_cast<QWidget*>(&named(i)),
+                                   static_cast<QWidget*>(&chosen(i)), static_cast<QWidget*>(&computed(i))})
+            EXPECT_EQ(box->isHidden(), i == 1) << box->objectName().toStdString();
+    EXPECT_TRUE(computed(2).isHidden());
+    ASSERT_EQ(sheet.totalBoxes(), std::vector<QWidget*>{&computed(2)}) << "the one column that has a total";
+    sheet.showTotal();
+    EXPECT_FALSE(computed(2).isHidden());
+}
+
+TEST(Columns, AnEntryIsLockedInTheTotalRow)
+{
+    RowSheet sheet("row", 2);
+    ControlArray<TextBox> entered("entered", 3);
+    sheet.withTotalRow();
+    sheet.entry(entered, 8);
+    sheet.finish();
+    EXPECT_TRUE(entered(2).isLocked());
+    EXPECT_FALSE(entered(1).isLocked());
 }
 
 TEST_F(Rows, TabGoesRowByRow)
