@@ -10,13 +10,14 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "screens/flow/opening_size.h"
+
 namespace flow {
 
 namespace {
 
 constexpr int TickMs = 100;
-constexpr QSize Preferred(1340, 690);  // of a 1366x768 screen, less the desktop's own bars
-constexpr QSize Frame(8, 34);          // a window manager's borders and title bar, at a guess
+constexpr QSize Frame(8, 34);  // a window manager's borders and title bar, at a guess
 
 }  // namespace
 
@@ -48,6 +49,14 @@ Screen& Chain::loaded(Link& link)
     if (!link.screen)
         link.screen = link.make(*this);
     return *link.screen;
+}
+
+Screen* Chain::find(const QString& name) const
+{
+    for (const Link& link : m_links)
+        if (link.screen && link.screen->objectName() == name)
+            return link.screen.get();
+    return nullptr;
 }
 
 void Chain::lookBack(const std::function<void()>& reading)
@@ -144,7 +153,7 @@ void Chain::bringForward(Screen& screen, const Screen* before)
     const bool first = !screen.testAttribute(Qt::WA_WState_Created);
     if (first) {
         const QRect room = (before ? before : &screen)->screen()->availableGeometry();
-        const QSize size = Preferred.boundedTo(room.size() - Frame);
+        const QSize size = OpeningSize.boundedTo(room.size() - Frame);
         screen.resize(size);
         const QPoint centred =
             room.center() - QPoint((size.width() + Frame.width()) / 2, (size.height() + Frame.height()) / 2);

@@ -40,6 +40,9 @@ public:
         return m_links[indexOf(typeid(Form))].screen != nullptr;
     }
 
+    /// The screen of this object name, nullptr if it is not loaded.
+    Screen* find(const QString& name) const;
+
     /// Lets `reading` ask for screens. Those that are made for it alone are taken off again: made before their turn,
     /// they would keep what the screens before them held then.
     void lookBack(const std::function<void()>& reading);
