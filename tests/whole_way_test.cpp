@@ -5,21 +5,14 @@
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <array>
-#include <fstream>
 #include <map>
-#include <sstream>
 
-#include "activities/misc/frmM1.h"
-#include "activities/misc/frmM2.h"
-#include "activities/site/frmS1.h"
 #include "activities/site/frmS2.h"
 #include "start/frmStart.h"
 #include "summary/frmSummary.h"
 #include "support/screen_test.h"
+#include "support/tsv.h"
 #include "track/frmT1.h"
-#include "track/frmT2.h"
-#include "track/frmT4.h"
-#include "yards/frmY.h"
 
 namespace {
 
@@ -40,23 +33,12 @@ const std::array Division = {
 /// Of each screen the texts of its boxes by their object names.
 using Figures = std::map<std::string, std::map<std::string, std::string>>;
 
-/// Reads lines of "screen, object name, text", parted by tabs.
+/// The lines of "screen, object name, text" of an expected division or Sr SE.
 Figures figuresOf(const std::string& name)
 {
-    const std::string path = std::string(CREWMARK_EXPECTED) + "/" + name + ".tsv";
-    std::ifstream file(path);
-    EXPECT_TRUE(file) << "cannot read " << path;
     Figures figures;
-    for (std::string line; std::getline(file, line);) {
-        std::istringstream cells(line);
-        std::string screen;
-        std::string object;
-        std::string text;
-        std::getline(cells, screen, '\t');
-        std::getline(cells, object, '\t');
-        std::getline(cells, text);
-        figures[screen][object] = text;
-    }
+    for (const auto& line : readTsv(std::string(CREWMARK_EXPECTED) + "/" + name + ".tsv"))
+        figures[line.at(0)][line.at(1)] = line.at(2);
     return figures;
 }
 
@@ -72,19 +54,8 @@ protected:
         m_leaving = leaving;
         proceed(srSe, srSes);
 
-        auto& t1 = nowOn<frmT1>();
-        type("txtT1(0)", "Sample Section");
-        type("txtT1(2)", "Km 0 to 100");
-        click(srSe.gauge);
-        work(t1, "cmdCopy");
-
-        work(nowOn<frmT2>(), "cmdCopy");
-        work(nowOn<frmT4>(), "");
-        work(nowOn<frmY>(), "cmdYdata", "cmdCOMPUTE");
-        work(nowOn<frmM1>(), "cmdData");
-        work(nowOn<frmM2>(), "cmdData");
-        work(nowOn<frmS1>(), "cmdData");
-        work(nowOn<frmS2>(), "cmdData");
+        for (std::size_t i = 1; i + 1 < division::Steps.size(); ++i)
+            work(division::Steps[i], srSe);
 
         const auto& summary = nowOn<frmSummary>();
         click("cmdTransfer");
@@ -139,11 +110,17 @@ private:
     }
 
     /// The data screen in front: import, Compute, look, and on to the next.
-    void work(const flow::DataScreen& form, const std::string& import, const std::string& compute = "cmdCompute")
+    void work(const division::Step& step, const SrSe& srSe)
     {
-        if (!import.empty())
-            click(import);
-        click(compute);
+        const flow::Screen& form = nowOn(step.form);
+        if (form.objectName() == "frmT1") {
+            type("txtT1(0)", "Sample Section");
+            type("txtT1(2)", "Km 0 to 100");
+            click(srSe.gauge);
+        }
+        if (*step.import)
+            click(step.import);
+        click(step.compute);
         expectTexts(form);
         expectNothingElse(form);
         if (m_leaving == Leaving::Printed) {
@@ -154,7 +131,7 @@ private:
         } else {
             expectPrintQuestion(false);
         }
-        click("cmdNext");
+        click(step.next);
     }
 
     void expectTexts(const QWidget& form)

@@ -7,18 +7,9 @@
 #include <QRegularExpression>
 #include <set>
 
-#include "activities/misc/frmM1.h"
-#include "activities/misc/frmM2.h"
-#include "activities/site/frmS1.h"
-#include "activities/site/frmS2.h"
 #include "docs/pages.h"
 #include "start/frmStart.h"
-#include "summary/frmSummary.h"
 #include "support/screen_test.h"
-#include "track/frmT1.h"
-#include "track/frmT2.h"
-#include "track/frmT4.h"
-#include "yards/frmY.h"
 
 namespace {
 
@@ -81,12 +72,10 @@ protected:
     const std::string dataFile = sample("1-ambapur.mdb");
 
     /// The ten screens of an Sr SE with a good data file.
-    std::vector<const QWidget*> screens()
+    std::vector<flow::Screen*> screens()
     {
         chain.get<frmStart>().txtT1(1).setText(QString::fromStdString(dataFile));
-        return {&chain.get<frmStart>(), &chain.get<frmT1>(),     &chain.get<frmT2>(), &chain.get<frmT4>(),
-                &chain.get<frmY>(),     &chain.get<frmM1>(),     &chain.get<frmM2>(), &chain.get<frmS1>(),
-                &chain.get<frmS2>(),    &chain.get<frmSummary>()};
+        return onAll();
     }
 };
 

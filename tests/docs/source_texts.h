@@ -11,7 +11,8 @@ struct SourceText {
 };
 
 /// Every string literal under src/, comments and #-lines left out. The reader program's own folder is left out too: it
-/// says nothing to the user, its findings are put into words by the store.
+/// says nothing to the user, its findings are put into words by the store. So is the replay of a kept division: the
+/// program opens none, only the worked example does.
 std::vector<SourceText> sourceTexts();
 
 /// The same for one file's text.

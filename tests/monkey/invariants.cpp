@@ -7,6 +7,14 @@
 #include <algorithm>
 #include <cmath>
 
+#include "activities/misc/frmM1.h"
+#include "activities/misc/frmM2.h"
+#include "activities/site/frmS2.h"
+#include "summary/frmSummary.h"
+#include "track/frmT1.h"
+#include "track/frmT4.h"
+#include "yards/frmY.h"
+
 namespace monkey {
 
 namespace {
@@ -277,18 +285,17 @@ void Invariants::checkSummary(const Box& box, const QString& now, const QWidget*
 std::vector<Invariants::Published> Invariants::publishedNow()
 {
     std::vector<Published> all;
-    if (m_chain.isLoaded<frmT1>())
-        all.push_back({T1, "LwrTotal", m_chain.get<frmT1>().LwrTotal});
-    if (m_chain.isLoaded<frmT4>())
-        all.push_back({T4, "TotMan", m_chain.get<frmT4>().TotMan});
-    if (m_chain.isLoaded<frmY>())
-        all.push_back({Y, "YdMan", m_chain.get<frmY>().YdMan});
-    if (m_chain.isLoaded<frmM1>())
-        all.push_back({M1, "TotalMandays", m_chain.get<frmM1>().TotalMandays});
-    if (m_chain.isLoaded<frmM2>())
-        all.push_back({M2, "TotalMandays", m_chain.get<frmM2>().TotalMandays});
-    if (m_chain.isLoaded<frmS2>())
-        all.push_back({S2, "TotalMandays", m_chain.get<frmS2>().TotalMandays});
+    const Screens screens = loadedOf(m_chain);
+    const auto add = [&]<class Form, class Number>(Place place, const char* name, Number Form::* value) {
+        if (const auto* form = dynamic_cast<const Form*>(screens[place]))
+            all.push_back({place, name, form->*value});
+    };
+    add(T1, "LwrTotal", &frmT1::LwrTotal);
+    add(T4, "TotMan", &frmT4::TotMan);
+    add(Y, "YdMan", &frmY::YdMan);
+    add(M1, "TotalMandays", &frmM1::TotalMandays);
+    add(M2, "TotalMandays", &frmM2::TotalMandays);
+    add(S2, "TotalMandays", &frmS2::TotalMandays);
     if (m_chain.isLoaded<frmSummary>()) {
         const auto& summary = m_chain.get<frmSummary>();
         for (std::size_t row = 0; row < frmSummary::Rows; ++row)

@@ -17,6 +17,7 @@
 #include "monkey/invariants.h"
 #include "monkey/random_user.h"
 #include "screens/flow/end_requests.h"
+#include "start/frmStart.h"
 
 namespace {
 

@@ -14,6 +14,10 @@
 #include <QWindow>
 #include <csignal>
 
+#include "screens/flow/placement.h"
+#include "start/frmStart.h"
+#include "support/clicks.h"
+
 namespace monkey {
 
 namespace {
@@ -51,7 +55,7 @@ void RandomUser::chooseAndAct()
     for (flow::Screen* screen : loadedOf(m_chain))
         if (screen && screen->isVisible()) {
             if (screen->size() == ForgottenSize)
-                screen->resize(1340, 690);
+                screen->resize(flow::OpeningSize);
             visible.push_back(screen);
         }
     if (visible.empty()) {
@@ -149,9 +153,7 @@ bool RandomUser::pressFirst(std::initializer_list<const char*> names)
 void RandomUser::press(QWidget& button)
 {
     m_told = "presses " + nameOf(button);
-    const bool mark = button.inherits("QRadioButton") || button.inherits("QCheckBox");
-    const QPoint place = mark ? QPoint(9, button.height() / 2) : button.rect().center();
-    QTest::mouseClick(m_form->windowHandle(), Qt::LeftButton, {}, button.mapTo(m_form, place));
+    QTest::mouseClick(m_form->windowHandle(), Qt::LeftButton, {}, button.mapTo(m_form, placeToClick(button)));
 }
 
 void RandomUser::pressAButton()

@@ -7,13 +7,14 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintDialog>
-#include <QPushButton>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
 #include "compose.h"
+#include "division/act.h"
+#include "division/steps.h"
 #include "program/sandbox_home.h"
 #include "screens/flow/chain.h"
 #include "start/frmStart.h"
@@ -59,14 +60,6 @@ private:
     QTimer m_look;
 };
 
-void press(flow::Screen& form, const char* name)
-{
-    auto* const button = form.findChild<QAbstractButton*>(name);
-    ASSERT_NE(button, nullptr) << name;
-    ASSERT_TRUE(button->isEnabled() && button->isVisible()) << form.objectName().toStdString() << "." << name;
-    button->click();
-}
-
 TEST(Traces, AWholeSrSeLeavesNothingButItsPrintOuts)
 {
     flow::DesktopDialogs dialogs;
@@ -75,29 +68,24 @@ TEST(Traces, AWholeSrSeLeavesNothingButItsPrintOuts)
     Clerk clerk;
     clerk.dataFile = CREWMARK_SAMPLES "/1-ambapur.mdb";
 
-    auto& start = chain.show<frmStart>();
-    start.txtT1(3).setText("1");
-    press(start, "cmdFile");
-    press(start, "cmdPrint");
-    press(start, "cmdProceed");
-    const QList<QPair<const char*, QList<const char*>>> steps = {
-        {"frmT1", {"optBG", "cmdCopy", "cmdCompute", "cmdPrint", "cmdNext"}},
-        {"frmT2", {"cmdCopy", "cmdCompute", "cmdPrint", "cmdNext"}},
-        {"frmT4", {"cmdCompute", "cmdPrint", "cmdNext"}},
-        {"frmY", {"cmdYdata", "cmdCOMPUTE", "cmdPrint", "cmdNext"}},
-        {"frmM1", {"cmdData", "cmdCompute", "cmdPrint", "cmdNext"}},
-        {"frmM2", {"cmdData", "cmdCompute", "cmdPrint", "cmdNext"}},
-        {"frmS1", {"cmdData", "cmdCompute", "cmdPrint", "cmdNext"}},
-        {"frmS2", {"cmdData", "cmdCompute", "cmdPrint", "cmdNext"}},
-        {"frmSummary", {"cmdTransfer", "cmdCompute", "cmdTotal", "cmdPrint", "cmdExit"}}};
-    for (const auto& [form, buttons] : steps) {
-        flow::Screen* screen = nullptr;
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (window->objectName() == form && window->isVisible())
-                screen = dynamic_cast<flow::Screen*>(window);
-        ASSERT_NE(screen, nullptr) << form;
-        for (const char* button : buttons)
-            press(*screen, button);
+    chain.show<frmStart>();
+    for (const division::Step& step : division::Steps) {
+        flow::Screen* const screen = chain.find(step.form);
+        ASSERT_TRUE(screen && screen->isVisible()) << step.form;
+        const auto press = [screen](const char* button) { division::perform(*screen, {.control = button}); };
+        if (screen->objectName() == "frmStart") {
+            division::perform(*screen, {"txtT1(3)", "1"});
+            press("cmdFile");
+        }
+        if (screen->objectName() == "frmT1")
+            press("optBG");
+        for (const char* button : {step.import, step.compute})
+            if (*button)
+                press(button);
+        if (screen->objectName() == "frmSummary")
+            press("cmdTotal");
+        press("cmdPrint");
+        press(*step.next ? step.next : "cmdExit");
     }
 
     EXPECT_FALSE(chain.isLoaded<frmSummary>()) << "Exit ends the program";

@@ -91,7 +91,7 @@ TEST_F(StartScreen, PrintAloneWarnsOfTheLock)
 
 TEST_F(StartScreen, FactsStandUnderOneAnotherAndTheDateAtTheTopRight)
 {
-    start.resize(1340, 690);
+    start.resize(flow::OpeningSize);
     settle();
     const auto place = [this](const char* name) {
         QWidget& box = find(name);
@@ -107,7 +107,7 @@ TEST_F(StartScreen, FactsStandUnderOneAnotherAndTheDateAtTheTopRight)
 
 TEST_F(StartScreen, NoLabelWrapsNeedlessly)
 {
-    start.resize(1340, 690);
+    start.resize(flow::OpeningSize);
     settle();
     for (const QLabel* label : start.findChildren<QLabel*>())
         if (label->objectName() != "lblTitle(0)") {  // a paragraph

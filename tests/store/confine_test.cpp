@@ -97,7 +97,7 @@ TEST_F(SystemCalls, FilesThatAreOpenAreReadOn)
     ASSERT_GE(file, 0);
     const auto readOn = [file] {
         char bytes[4] = {};
-        struct stat about {};
+        struct stat about{};
         const std::string memory(std::size_t{1} << 20, 'x');
         void* const block = realloc(malloc(std::size_t{1} << 20), std::size_t{2} << 20);
         const bool isRead = read(file, bytes, 4) == 4 && lseek(file, 0, SEEK_SET) == 0;
@@ -173,7 +173,7 @@ TEST_F(SystemCalls, TheUsersFilesStayAsTheyAre)
     const Folder folder;
     const std::string path = folder.path() / "file.mdb";
     std::ofstream(path) << "text";
-    struct stat before {};
+    struct stat before{};
     ASSERT_EQ(stat(path.c_str(), &before), 0);
     const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
 
@@ -194,7 +194,7 @@ TEST_F(SystemCalls, TheUsersFilesStayAsTheyAre)
     EXPECT_TRUE(isEndedAt(SYS_unlink, path.c_str()));
 #endif
 
-    struct stat after {};
+    struct stat after{};
     ASSERT_EQ(stat(path.c_str(), &after), 0);
     EXPECT_EQ(after.st_mode, before.st_mode);
     EXPECT_EQ(after.st_ctim.tv_sec, before.st_ctim.tv_sec);
@@ -205,7 +205,7 @@ TEST_F(SystemCalls, TheUsersFilesStayAsTheyAre)
 
 TEST_F(SystemCalls, NoFileIsLookedUpByItsName)
 {
-    struct stat about {};
+    struct stat about{};
     // The C library's fstat goes through this call in some of its versions, with a name that is empty.
     if (const int call = numberOf("newfstatat"); call >= 0) {
         EXPECT_TRUE(isEndedAt(call, AT_FDCWD, "/etc/passwd", &about, 0));
@@ -240,11 +240,10 @@ TEST_F(SystemCalls, ItCannotSlipAway)
 
 TEST_F(SystemCalls, AnyOtherEndsIt)
 {
-    const std::vector<const char*> used
-    {
-        "read", "lseek", "fstat", "brk", "mmap", "munmap", "mremap", "futex", "exit_group",
+    const std::vector<const char*> used{"read",    "lseek",       "fstat",  "brk",        "mmap",
+                                        "munmap",  "mremap",      "futex",  "exit_group",
 #if defined(__SANITIZE_ADDRESS__)
-            "madvise", "sched_yield", "getpid", "gettid"
+                                        "madvise", "sched_yield", "getpid", "gettid"
 #endif
     };
     const auto isUsed = [&used](int call) {

@@ -3,8 +3,9 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <sstream>
 #include <stdexcept>
+
+#include "support/tsv.h"
 
 namespace store {
 
@@ -31,18 +32,7 @@ Grid gridOf(const Table& table)
 
 Grid expectedGrid(const std::string& sampleName, const std::string& table)
 {
-    const std::string path = std::string(CREWMARK_EXPECTED) + "/cells/" + sampleName + "." + table + ".tsv";
-    std::ifstream file(path);
-    if (!file)
-        throw std::runtime_error("no such file: " + path);
-    Grid grid;
-    for (std::string line; std::getline(file, line);) {
-        std::vector<std::string>& cells = grid.emplace_back();
-        std::istringstream rest(line + '\t');
-        for (std::string cell; std::getline(rest, cell, '\t');)
-            cells.push_back(cell);
-    }
-    return grid;
+    return readTsv(std::string(CREWMARK_EXPECTED) + "/cells/" + sampleName + "." + table + ".tsv");
 }
 
 std::string bytesOf(const std::filesystem::path& path)

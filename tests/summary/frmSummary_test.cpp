@@ -86,7 +86,7 @@ TEST_F(SummaryScreen, ColumnsStandInTheirOrderAndBoxesAreNamed)
 TEST_F(SummaryScreen, FifteenSrSesFitALaptopScreen)
 {
     frmSummary& form = open("15");
-    form.resize(1340, 690);
+    form.resize(flow::OpeningSize);
     for (int i = 0; i < 3; ++i)
         settle();
     const auto* rows = form.findChild<QScrollArea*>("rows");

@@ -12,13 +12,8 @@
 #include <stdexcept>
 
 #include "screens/controls/data_grid.h"
-
-namespace {
-
-// Where a click surely meets the mark of an option button or check box.
-constexpr QPoint OnTheMark(9, 0);
-
-}  // namespace
+#include "start/frmStart.h"
+#include "support/clicks.h"
 
 ScreenTest::~ScreenTest()
 {
@@ -29,6 +24,40 @@ void ScreenTest::settle()
 {
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QApplication::processEvents();
+}
+
+void ScreenTest::workOn(flow::Screen& form)
+{
+    EXPECT_TRUE(form.isVisible()) << form.objectName().toStdString() << " is not visible";
+    m_form = &form;
+    settle();
+}
+
+flow::Screen& ScreenTest::nowOn(const std::string& name)
+{
+    flow::Screen* const form = chain.find(QString::fromStdString(name));
+    if (!form)
+        throw std::logic_error(name + " is not loaded");
+    workOn(*form);
+    return *form;
+}
+
+flow::Screen& ScreenTest::onNext()
+{
+    if (!m_form)
+        return on<frmStart>();
+    const auto step = std::find_if(division::Steps.begin(), division::Steps.end(),
+                                   [this](const division::Step& one) { return m_form->objectName() == one.form; });
+    chain.showNextAfter(*m_form);
+    return nowOn((step + 1)->form);
+}
+
+std::vector<flow::Screen*> ScreenTest::onAll()
+{
+    std::vector<flow::Screen*> screens;
+    while (screens.size() < division::Steps.size())
+        screens.push_back(&onNext());
+    return screens;
 }
 
 QWidget& ScreenTest::find(const std::string& name)
@@ -62,10 +91,8 @@ void ScreenTest::type(const std::string& name, const std::string& text)
 
 void ScreenTest::click(const std::string& name)
 {
-    QWidget& widget = find(name);
-    const bool mark = widget.inherits("QRadioButton") || widget.inherits("QCheckBox");
-    QTest::mouseClick(&widget, Qt::LeftButton, {},
-                      mark ? OnTheMark + QPoint(0, widget.height() / 2) : widget.rect().center());
+    QWidget& button = find(name);
+    QTest::mouseClick(&button, Qt::LeftButton, {}, placeToClick(button));
     settle();
 }
 

@@ -5,7 +5,9 @@
 #include <vector>
 
 #include "compose.h"
+#include "division/steps.h"
 #include "screens/flow/chain.h"
+#include "screens/flow/placement.h"
 #include "support/fake_dialogs.h"
 
 /// A test that works the real screens with keys and clicks, offscreen. Controls are found by their object names in
@@ -31,11 +33,16 @@ protected:
     {
         EXPECT_TRUE(chain.isLoaded<Form>()) << "the screen is not loaded";
         auto& form = chain.get<Form>();
-        EXPECT_TRUE(form.isVisible()) << form.objectName().toStdString() << " is not visible";
-        m_form = &form;
-        settle();
+        workOn(form);
         return form;
     }
+    /// The same by the form's name.
+    flow::Screen& nowOn(const std::string& form);
+
+    /// Shows the first screen, then the one behind that worked on, and works on it.
+    flow::Screen& onNext();
+    /// Shows all ten in their order.
+    std::vector<flow::Screen*> onAll();
 
     /// Replaces a box's text by keys, as a user does.
     void type(const std::string& name, const std::string& text);
@@ -71,7 +78,9 @@ protected:
     flow::Chain chain{dialogs};
 
 private:
-    QWidget* m_form = nullptr;
+    void workOn(flow::Screen& form);
+
+    flow::Screen* m_form = nullptr;
 };
 
 /// Pages of a PDF file.

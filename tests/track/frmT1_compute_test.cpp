@@ -1,6 +1,3 @@
-#include <array>
-#include <fstream>
-#include <sstream>
 #include <vector>
 
 #include "track/track_screen.h"
@@ -307,49 +304,5 @@ TEST_F(TrackCompute, AFigureTooLargeForAnyNumberEndsTheCompute)
     click("cmdCompute");
     expectStillToCompute();
 }
-
-// Whole samples against figures worked out apart from the program
-
-class SampleTrack : public TrackCompute, public testing::WithParamInterface<const char*> {};
-
-TEST_P(SampleTrack, ShowsEveryFigureOfTheSample)  // slow
-{
-    std::vector<std::array<std::string, 3>> expected;  // screen, box, text
-    std::ifstream file(std::string(CREWMARK_TEST_DATA) + "/../expected/" + GetParam() + ".tsv");
-    for (std::string line; std::getline(file, line);) {
-        std::array<std::string, 3> parts;
-        std::istringstream fields(line);
-        for (std::string& part : parts)
-            std::getline(fields, part, '\t');
-        expected.push_back(parts);
-    }
-    const auto given = [&](const std::string& screen, const std::string& box) {
-        for (const auto& [s, b, t] : expected)
-            if (s == screen && b == box)
-                return t;
-        return std::string("?");
-    };
-
-    chain.get<frmStart>().txtT1(0).setText(QString::fromStdString(given("frmStart", "txtT1(0)")));
-    chain.get<frmStart>().txtT1(4).setText(QString::fromStdString(given("frmStart", "txtT1(4)")));
-    open(sample(std::string(GetParam()) + ".mdb"));
-    type("txtT1(0)", given("frmT1", "txtT1(0)"));
-    type("txtT1(2)", given("frmT1", "txtT1(2)"));
-    click(std::string(GetParam()) == "3-jamunia" ? "chkSub" : "opt" + given("frmT1", "txtT1(3)"));
-    click("cmdCopy");
-    click("cmdCompute");
-
-    int compared = 0;
-    for (const auto& [screen, box, shownText] : expected)
-        if (screen == "frmT1") {
-            EXPECT_EQ(text(box), shownText) << box;
-            ++compared;
-        }
-    EXPECT_EQ(compared, 6 + 13 * std::stoi(given("frmT1", "txtNSeg"))) << "the header and 13 boxes a segment";
-}
-
-INSTANTIATE_TEST_SUITE_P(Files, SampleTrack,
-                         testing::Values("1-ambapur", "2-eklahra", "3-jamunia", "4-mandar-hill", "5-parasnath-ghat"),
-                         [](const auto& tested) { return std::string(tested.param).substr(2, 5); });
 
 }  // namespace

@@ -1,8 +1,7 @@
 #include <QLabel>
 #include <QTableView>
-#include <fstream>
-#include <sstream>
 
+#include "support/tsv.h"
 #include "track/track_screen.h"
 
 namespace {
@@ -55,15 +54,14 @@ TEST_F(TrackImport, ShowsTheTableWithHeadingsAndMargin)
     open(sample("1-ambapur.mdb"));
     EXPECT_TRUE(shown("TrGrid"));
     const auto& grid = dynamic_cast<const controls::DataGrid&>(find("TrGrid"));
-    std::ifstream cells(std::string(CREWMARK_TEST_DATA) + "/../expected/cells/1-ambapur.TR.tsv");
     int row = 0;
-    for (std::string line; std::getline(cells, line); ++row) {
+    for (const auto& line : readTsv(std::string(CREWMARK_EXPECTED) + "/cells/1-ambapur.TR.tsv")) {
         EXPECT_EQ(grid.TextMatrix(row, 0), "");
-        std::istringstream fields(line);
-        int column = 1;
-        for (std::string cell; std::getline(fields, cell, '\t'); ++column)
-            EXPECT_EQ(grid.TextMatrix(row, column).toStdString(), cell) << "row " << row << ", column " << column;
-        EXPECT_EQ(column, 14) << "13 fields";
+        ASSERT_EQ(line.size(), 13U) << "fields";
+        for (int column = 1; column <= 13; ++column)
+            EXPECT_EQ(grid.TextMatrix(row, column).toStdString(), line[static_cast<std::size_t>(column) - 1])
+                << "row " << row << ", column " << column;
+        ++row;
     }
     EXPECT_EQ(row, 6) << "the headings and 5 records";
     EXPECT_EQ(grid.editTriggers(), QAbstractItemView::NoEditTriggers);

@@ -139,7 +139,7 @@ TEST_F(TrackScreen, ColumnsStandInTheirOrder)
 TEST_F(TrackScreen, SixteenSegmentsFitALaptopScreen)
 {
     frmT1& t1 = openRows(16);
-    t1.resize(1340, 690);
+    t1.resize(flow::OpeningSize);
     for (int i = 0; i < 3; ++i)
         settle();
     auto* area = t1.findChild<QScrollArea*>("rows");

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "probe.h"
+#include "screens/flow/placement.h"
 
 namespace {
 
@@ -50,7 +51,7 @@ int main(int argc, char* argv[])
     std::vector<std::unique_ptr<QWidget>> standing;
     for (int i = 0; i < windows; ++i) {
         standing.push_back(std::make_unique<QWidget>());
-        standing.back()->resize(1340, 690);
+        standing.back()->resize(flow::OpeningSize);
         if (arguments.contains("--word"))
             new QLabel("Crewmark", standing.back().get());
         if (arguments.contains("--words"))

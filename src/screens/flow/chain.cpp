@@ -39,6 +39,14 @@ Screen& Chain::loaded(Link& link)
     return *link.screen;
 }
 
+Screen* Chain::find(const QString& name) const
+{
+    for (const Link& link : m_links)
+        if (link.screen && link.screen->objectName() == name)
+            return link.screen.get();
+    return nullptr;
+}
+
 void Chain::showNextAfter(const Screen& screen)
 {
     const auto link =

@@ -63,6 +63,9 @@ public:
         return find<Form>() != nullptr;
     }
 
+    /// The screen of this object name, nullptr if it is not loaded.
+    Screen* find(const QString& name) const;
+
     /// Brings the screen to the front; creates it if need be.
     template <class Form>
     Form& show()

@@ -8,15 +8,14 @@ namespace flow {
 
 namespace {
 
-constexpr QSize Preferred(1340, 690);  // of a 1366x768 screen, less the desktop's own bars
-constexpr QSize Frame(8, 34);          // a window manager's borders and title bar, at a guess
+constexpr QSize Frame(8, 34);  // a window manager's borders and title bar, at a guess
 
 }  // namespace
 
 void place(QWidget& screen, const QWidget* before)
 {
     const QRect room = (before ? before : &screen)->screen()->availableGeometry();
-    const QSize size = Preferred.boundedTo(room.size() - Frame);
+    const QSize size = OpeningSize.boundedTo(room.size() - Frame);
     screen.resize(size);
     const QPoint centred =
         room.center() - QPoint((size.width() + Frame.width()) / 2, (size.height() + Frame.height()) / 2);

@@ -35,23 +35,27 @@ std::vector<Allowed> allowedCalls()
 {
     const auto output = [](int file) { return Allowed{SCMP_SYS(write), {SCMP_A0(SCMP_CMP_EQ, scmp_datum_t(file))}}; };
     const scmp_arg_cmp noCode = SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0);
-    return
-    {
-        {SCMP_SYS(read), {}},                                // pages of the data file: their place, their bytes
-            {SCMP_SYS(lseek), {}}, {SCMP_SYS(_llseek), {}},  // lseek where an address has 32 bits
-            {SCMP_SYS(fstat), {}},                           // the library asks for the file's size before every page
-            {SCMP_SYS(fstat64), {}},
-            {SCMP_SYS(newfstatat), {SCMP_A3(SCMP_CMP_EQ, AT_EMPTY_PATH)}},  // fstat in glibc 2.33 to 2.38
-            output(STDOUT_FILENO),
-            output(STDERR_FILENO),  // the library's warnings, which go nowhere
-            {SCMP_SYS(brk), {}},    // malloc
-            {SCMP_SYS(mmap), {noCode}}, {SCMP_SYS(mmap2), {noCode}}, {SCMP_SYS(munmap), {}}, {SCMP_SYS(mremap), {}},
-            {SCMP_SYS(futex), {}},  // locks of the C library and of C++ exceptions
-            {SCMP_SYS(exit_group), {}},
+    return {
+        {SCMP_SYS(read), {}},  // pages of the data file: their place, their bytes
+        {SCMP_SYS(lseek), {}},
+        {SCMP_SYS(_llseek), {}},  // lseek where an address has 32 bits
+        {SCMP_SYS(fstat), {}},    // the library asks for the file's size before every page
+        {SCMP_SYS(fstat64), {}},
+        {SCMP_SYS(newfstatat), {SCMP_A3(SCMP_CMP_EQ, AT_EMPTY_PATH)}},  // fstat in glibc 2.33 to 2.38
+        output(STDOUT_FILENO),
+        output(STDERR_FILENO),  // the library's warnings, which go nowhere
+        {SCMP_SYS(brk), {}},    // malloc
+        {SCMP_SYS(mmap), {noCode}},
+        {SCMP_SYS(mmap2), {noCode}},
+        {SCMP_SYS(munmap), {}},
+        {SCMP_SYS(mremap), {}},
+        {SCMP_SYS(futex), {}},  // locks of the C library and of C++ exceptions
+        {SCMP_SYS(exit_group), {}},
 #if defined(__SANITIZE_ADDRESS__)
-            {SCMP_SYS(madvise), {}},      // AddressSanitizer's own memory
-            {SCMP_SYS(sched_yield), {}},  // its locks
-            {SCMP_SYS(getpid), {}}, {SCMP_SYS(gettid), {}},
+        {SCMP_SYS(madvise), {}},      // AddressSanitizer's own memory
+        {SCMP_SYS(sched_yield), {}},  // its locks
+        {SCMP_SYS(getpid), {}},
+        {SCMP_SYS(gettid), {}},
 #endif
     };
 }

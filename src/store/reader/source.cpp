@@ -77,7 +77,7 @@ std::string Source::decoded(Bytes stored) const
 
 bool Source::hasChanged() const
 {
-    struct stat now {};
+    struct stat now{};
     return fstat(file, &now) != 0 || now.st_size != size || now.st_mtim.tv_sec != changed.tv_sec ||
            now.st_mtim.tv_nsec != changed.tv_nsec;
 }

@@ -44,7 +44,7 @@ protected:
     /// Of the screen at the size that a 1366x768 display leaves it.
     void expectNoScrolling(QWidget& form)
     {
-        form.resize(1340, 690);
+        form.resize(flow::OpeningSize);
         for (int i = 0; i < 3; ++i)
             settle();
         const auto* rows = form.findChild<QScrollArea*>("rows");

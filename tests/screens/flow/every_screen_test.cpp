@@ -1,17 +1,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "activities/misc/frmM1.h"
-#include "activities/misc/frmM2.h"
-#include "activities/site/frmS1.h"
-#include "activities/site/frmS2.h"
-#include "start/frmStart.h"
-#include "summary/frmSummary.h"
+#include "screens/flow/data_screen.h"
 #include "support/screen_test.h"
-#include "track/frmT1.h"
-#include "track/frmT2.h"
-#include "track/frmT4.h"
-#include "yards/frmY.h"
 
 namespace {
 
@@ -21,33 +12,29 @@ const std::string LockTip =
 /// What all ten screens have in common, on each of them.
 class EveryScreen : public ScreenTest {  // slow
 protected:
-    template <class Form>
-    void expectCommon(const std::string& name, const std::string& caption)
+    void expectCommon(flow::Screen& form, const std::string& caption)
     {
-        SCOPED_TRACE(name);
-        Form& form = on<Form>();
-        EXPECT_EQ(form.objectName().toStdString(), name);
+        SCOPED_TRACE(form.objectName().toStdString());
         EXPECT_EQ(form.windowTitle().toStdString(), caption);
         EXPECT_FALSE(form.isModal());
         EXPECT_TRUE(locked("txtRly(2)") && pale("txtRly(2)"));
         EXPECT_FALSE(text("txtRly(2)").empty());
         EXPECT_EQ(text("cmdPrint"), "&Print");
-        if constexpr (requires { form.cmdNext; }) {
+        if (const auto* step = dynamic_cast<const flow::StepScreen*>(&form)) {
             EXPECT_EQ(text("cmdNext"), "&Next");
-            EXPECT_FALSE(form.cmdNext.isEnabled() || form.cmdPrint.isEnabled());
-            EXPECT_TRUE(form.cmdNext.toolTip().toStdString() == LockTip ||
-                        form.cmdPrint.toolTip().toStdString() == LockTip);
+            EXPECT_FALSE(step->cmdNext.isEnabled() || step->cmdPrint.isEnabled());
+            EXPECT_TRUE(step->cmdNext.toolTip().toStdString() == LockTip ||
+                        step->cmdPrint.toolTip().toStdString() == LockTip);
         } else {
             EXPECT_EQ(form.cmdPrint.toolTip().toStdString(), LockTip);
         }
-        if constexpr (requires { form.Printed; }) {
-            EXPECT_EQ(form.Printed, 0);
-        }
+        const auto* data = dynamic_cast<const flow::DataScreen*>(&form);
+        EXPECT_TRUE(!data || data->Printed == 0);
         expectPrints(form);
+        EXPECT_TRUE(!data || data->Printed == 1);
     }
 
-    template <class Form>
-    void expectPrints(Form& form)
+    void expectPrints(flow::Screen& form)
     {
         const QTemporaryDir folder;
         const std::string pdf = folder.filePath("print.pdf").toStdString();
@@ -56,61 +43,54 @@ protected:
         click("cmdPrint");
         EXPECT_EQ(dialogs.open(), 0U) << "the print dialog did not come";
         EXPECT_EQ(pagesOf(pdf), 3);
-        if constexpr (requires { form.Printed; }) {
-            EXPECT_EQ(form.Printed, 1);
-        }
     }
 
-    /// Next of a printed `From` shows `To`, of which there is one.
-    template <class From, class To>
-    void expectNext()
+    /// Next of the screen in work, printed, shows `to`, of which there is one.
+    void expectNext(flow::StepScreen& form, const char* to)
     {
-        From& form = on<From>();
         SCOPED_TRACE(form.objectName().toStdString());
-        form.Printed = 0;
         form.cmdNext.setEnabled(true);
         expectPrintQuestion(true);
         click("cmdNext");
-        EXPECT_FALSE(chain.isLoaded<To>()) << "Yes keeps the screen";
+        EXPECT_FALSE(chain.find(to)) << "Yes keeps the screen";
         expectPrintQuestion(false);
         click("cmdNext");
-        ASSERT_TRUE(chain.isLoaded<To>());
-        const To& next = chain.get<To>();
-        EXPECT_TRUE(next.isVisible());
+        const flow::Screen* const next = chain.find(to);
+        ASSERT_TRUE(next);
+        EXPECT_TRUE(next->isVisible());
         EXPECT_TRUE(form.isVisible());
         form.Printed = 1;
-        on<From>();
+        form.activateWindow();
+        settle();
         click("cmdNext");
         EXPECT_EQ(dialogs.open(), 0U);
-        EXPECT_EQ(&chain.get<To>(), &next);
-        EXPECT_TRUE(next.isActiveWindow());
+        EXPECT_EQ(chain.find(to), next);
+        EXPECT_TRUE(next->isActiveWindow());
     }
 };
 
 TEST_F(EveryScreen, BearsItsCaptionAndPrints)
 {
-    expectCommon<frmStart>("frmStart", "Calculations of Crewmark Based on PLKTN Commitees's Report");
-    expectCommon<frmT1>("frmT1", "Entering Track Data");
-    expectCommon<frmT2>("frmT2", "Entering Data on Formation , Rainfall and Curves");
-    expectCommon<frmT4>("frmT4", "Calculations  of Mandays required for ' T ' and ' R ' activities of main line");
-    expectCommon<frmY>("frmY", "Entering Yard Data");
-    expectCommon<frmM1>("frmM1", "Data Entry for - For Miscelleneous Activities");
-    expectCommon<frmM2>("frmM2", "Data Entry for Miscelleneous Activities  (continued).....");
-    expectCommon<frmS1>("frmS1", "Data Entry for Site Specefic Activiries 'S'");
-    expectCommon<frmS2>("frmS2", "Data Entry for Site Specefic Activities 'S' (Continued)");
-    expectCommon<frmSummary>("frmSummary", "Manpower Requirement Summary for the Division");
+    for (const char* caption : {
+             "Calculations of Crewmark Based on PLKTN Commitees's Report",
+             "Entering Track Data",
+             "Entering Data on Formation , Rainfall and Curves",
+             "Calculations  of Mandays required for ' T ' and ' R ' activities of main line",
+             "Entering Yard Data",
+             "Data Entry for - For Miscelleneous Activities",
+             "Data Entry for Miscelleneous Activities  (continued).....",
+             "Data Entry for Site Specefic Activiries 'S'",
+             "Data Entry for Site Specefic Activities 'S' (Continued)",
+             "Manpower Requirement Summary for the Division",
+         })
+        expectCommon(onNext(), caption);
 }
 
 TEST_F(EveryScreen, NextShowsTheFollowingOne)
 {
-    expectNext<frmT1, frmT2>();
-    expectNext<frmT2, frmT4>();
-    expectNext<frmT4, frmY>();
-    expectNext<frmY, frmM1>();
-    expectNext<frmM1, frmM2>();
-    expectNext<frmM2, frmS1>();
-    expectNext<frmS1, frmS2>();
-    expectNext<frmS2, frmSummary>();
+    onNext();
+    for (std::size_t i = 1; i + 1 < division::Steps.size(); ++i)
+        expectNext(dynamic_cast<flow::StepScreen&>(onNext()), division::Steps[i + 1].form);
 }
 
 }  // namespace

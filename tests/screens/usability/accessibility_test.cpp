@@ -13,6 +13,11 @@
 #include <map>
 
 #include "screens/usability/ten_screens.h"
+#include "start/frmStart.h"
+#include "summary/frmSummary.h"
+#include "track/frmT1.h"
+#include "track/frmT2.h"
+#include "yards/frmY.h"
 
 namespace {
 

@@ -8,6 +8,8 @@
 #include <map>
 
 #include "screens/usability/ten_screens.h"
+#include "start/frmStart.h"
+#include "track/frmT1.h"
 
 namespace {
 
@@ -65,9 +67,8 @@ protected:
 
     void openTwo()
     {
-        begin<frmStart>("", "");
-        begin<frmT1>("cmdCopy", "cmdCompute");
-        steps.back().form->activateWindow();
+        begin();
+        begin().activateWindow();
         QTest::qWait(250);  // two ticks of the clock
     }
 

@@ -12,6 +12,11 @@
 #include <map>
 
 #include "screens/usability/ten_screens.h"
+#include "start/frmStart.h"
+#include "summary/frmSummary.h"
+#include "track/frmT1.h"
+#include "track/frmT4.h"
+#include "yards/frmY.h"
 
 namespace {
 
@@ -45,16 +50,14 @@ protected:
     }
 
     /// Import by its mnemonic, then Enter all the way: each time on the button that comes next.
-    template <class Form>
-    void workByKeys(const std::string& compute, bool imports)
+    void workByKeys(const division::Step& step)
     {
-        const auto& form = nowOn<Form>();
-        SCOPED_TRACE(form.objectName().toStdString());
-        EXPECT_EQ(QApplication::activeWindow(), &form);
-        if (imports)
+        SCOPED_TRACE(step.form);
+        EXPECT_EQ(QApplication::activeWindow(), &nowOn(step.form));
+        if (*step.import)
             press(Qt::Key_D, Qt::AltModifier);
         // A mnemonic presses the button for a moment.
-        ASSERT_TRUE(QTest::qWaitFor([&] { return focused() == compute; })) << "the focus is on " << focused();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return focused() == step.compute; })) << "the focus is on " << focused();
         press(Qt::Key_Return);
         EXPECT_EQ(focused(), "cmdPrint");
         dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 1}, folder.filePath("print.pdf").toStdString());
@@ -93,14 +96,8 @@ TEST_F(Keyboard, TheWholeWayCanBeGoneWithoutAMouse)
     press(Qt::Key_Return);  // on, as in a box
     EXPECT_EQ(focused(), "chkSub");
     press(Qt::Key_Return);
-    workByKeys<frmT1>("cmdCompute", true);
-    workByKeys<frmT2>("cmdCompute", true);
-    workByKeys<frmT4>("cmdCompute", false);
-    workByKeys<frmY>("cmdCOMPUTE", true);
-    workByKeys<frmM1>("cmdCompute", true);
-    workByKeys<frmM2>("cmdCompute", true);
-    workByKeys<frmS1>("cmdCompute", true);
-    workByKeys<frmS2>("cmdCompute", true);
+    for (std::size_t i = 1; i + 1 < division::Steps.size(); ++i)
+        workByKeys(division::Steps[i]);
 
     nowOn<frmSummary>();
     EXPECT_EQ(focused(), "cmdTransfer");

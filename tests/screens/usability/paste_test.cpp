@@ -6,6 +6,10 @@
 
 #include "screens/controls/data_grid.h"
 #include "screens/usability/ten_screens.h"
+#include "start/frmStart.h"
+#include "track/frmT1.h"
+#include "track/frmT2.h"
+#include "yards/frmY.h"
 
 namespace {
 

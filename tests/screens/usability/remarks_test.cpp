@@ -2,7 +2,15 @@
 
 #include <QAccessible>
 
+#include "activities/misc/frmM1.h"
+#include "activities/misc/frmM2.h"
+#include "activities/site/frmS1.h"
+#include "activities/site/frmS2.h"
 #include "screens/usability/ten_screens.h"
+#include "start/frmStart.h"
+#include "track/frmT1.h"
+#include "track/frmT2.h"
+#include "yards/frmY.h"
 
 namespace {
 

@@ -9,6 +9,7 @@
 #include <set>
 
 #include "screens/usability/ten_screens.h"
+#include "start/frmStart.h"
 
 namespace {
 

@@ -3,7 +3,10 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include "activities/misc/frmM1.h"
 #include "screens/usability/ten_screens.h"
+#include "summary/frmSummary.h"
+#include "track/frmT1.h"
 
 namespace {
 
@@ -15,7 +18,7 @@ protected:
     {
         Form& form = nowOn<Form>();
         form.activateWindow();
-        form.resize(1340, 400);
+        form.resize(Usual.width(), 400);
         for (int i = 0; i < 3; ++i)
             settle();
         auto& area = *form.template findChild<QScrollArea*>("rows");
