@@ -8,6 +8,7 @@
 #include "compose.h"
 #include "screens/flow/chain.h"
 #include "screens/flow/end_requests.h"
+#include "screens/flow/held_keys.h"
 #include "start/frmStart.h"
 
 namespace {
@@ -44,6 +45,7 @@ int main(int argc, char* argv[])
     flow::Chain chain(dialogs);
     compose(chain);
     const flow::EndRequests endRequests(chain);
+    const flow::HeldKeys heldKeys;
     chain.show<frmStart>();
     return QApplication::exec();
 }
