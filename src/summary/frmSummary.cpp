@@ -121,7 +121,7 @@ void frmSummary::markShortage(int row)
 {
     controls::TextBox& box = txtEx(row);
     const bool shortage = figures::countUpTo(0, box.text().toStdString()) < 0;
-    box.setRed(shortage);
+    box.setReadableRed(shortage);
     QFont font = box.font();
     font.setBold(shortage);
     box.setFont(font);
