@@ -12,6 +12,7 @@
 #include "figures/numeric_text.h"
 #include "figures/picture.h"
 #include "screens/controls/entry.h"
+#include "screens/controls/paste.h"
 #include "screens/controls/tool_tip.h"
 
 namespace controls {
@@ -145,13 +146,18 @@ void TextBox::contextMenuEvent(QContextMenuEvent* event)
 {
     const std::unique_ptr<QMenu> menu(createStandardContextMenu());
     for (QAction* action : menu->actions()) {
-        if (action->text().section('\t', 0, 0) != QLineEdit::tr("&Paste"))
-            continue;
-        disconnect(action, nullptr, this, nullptr);
-        connect(action, &QAction::triggered, this, [this] {
-            if (!pasteBlock(*this, QGuiApplication::clipboard()->text()))
-                paste();
-        });
+        const QString name = action->text().section('\t', 0, 0);
+        if (name == QLineEdit::tr("&Paste")) {
+            disconnect(action, nullptr, this, nullptr);
+            connect(action, &QAction::triggered, this, [this] {
+                if (!pasteBlock(*this, QGuiApplication::clipboard()->text()))
+                    paste();
+            });
+        } else if (name == QLineEdit::tr("&Undo") && canUndoPaste(*this)) {
+            disconnect(action, nullptr, this, nullptr);
+            connect(action, &QAction::triggered, this, [this] { undoPaste(*this); });
+            action->setEnabled(true);
+        }
     }
     menu->exec(event->globalPos());
 }
