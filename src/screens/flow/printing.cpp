@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <QPicture>
 #include <QPrinter>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QWidget>
 #include <algorithm>
@@ -46,15 +45,17 @@ private:
     bool m_wasSet;
 };
 
+using Part = controls::FormLayout::Part;
+
 // Rows that the user has scrolled down stand under their headings on paper, not around them.
 class HeadingsOnTop {
 public:
-    explicit HeadingsOnTop(const QList<QWidget*>& parts)
+    explicit HeadingsOnTop(const QList<Part>& parts)
     {
-        for (QWidget* part : parts)
-            if (auto* rows = dynamic_cast<controls::RowSheet*>(part)) {
-                m_pinned.append({rows, rows->pinnedAt()});
-                rows->pinHeadings(0);
+        for (const Part& part : parts)
+            if (part.rows) {
+                m_pinned.append({part.rows, part.rows->pinnedAt()});
+                part.rows->pinHeadings(0);
             }
     }
     ~HeadingsOnTop()
@@ -73,27 +74,28 @@ private:
 // window: the same sheet on every desktop. The table of the data file is on it as far as a screen takes it over.
 class LaidOutForPaper {
 public:
-    LaidOutForPaper(const QWidget& form, const QList<QWidget*>& parts) : m_width(UsualWidth * form.logicalDpiX() / 96)
+    LaidOutForPaper(const QWidget& form, const QList<Part>& parts) : m_width(UsualWidth * form.logicalDpiX() / 96)
     {
-        for (QWidget* part : parts) {
-            m_before.append({part, part->size(), areaOf(*part), {}});
-            const controls::DataGrid* grid = gridOf(*part);
-            m_width = std::max({m_width, part->minimumSizeHint().width(), grid ? grid->wholeSize().width() : 0});
+        for (const Part& part : parts) {
+            m_before.append({part, part.widget->size(), {}});
+            m_width = std::max(m_width, part.widget->minimumSizeHint().width());
+            if (showsGrid(part))
+                m_width = std::max(m_width, part.grid->wholeSize().width());
         }
         for (Before& before : m_before)
             stretch(before);
     }
     ~LaidOutForPaper()
     {
-        for (const Before& before : m_before) {
-            before.part->resize(before.size);
-            if (controls::DataGrid* grid = gridOf(*before.part))
-                setBars(*grid, Qt::ScrollBarAsNeeded);
-            if (!before.area)
+        for (const auto& [part, size, scrolled] : m_before) {
+            part.widget->resize(size);
+            if (showsGrid(part))
+                setBars(*part.grid, Qt::ScrollBarAsNeeded);
+            if (!part.area)
                 continue;
-            before.area->setWidgetResizable(true);
-            before.area->horizontalScrollBar()->setValue(before.scrolled.x());
-            before.area->verticalScrollBar()->setValue(before.scrolled.y());
+            part.area->setWidgetResizable(true);
+            part.area->horizontalScrollBar()->setValue(scrolled.x());
+            part.area->verticalScrollBar()->setValue(scrolled.y());
         }
     }
     LaidOutForPaper(const LaidOutForPaper&) = delete;
@@ -103,26 +105,12 @@ public:
 
 private:
     struct Before {
-        QWidget* part;
+        Part part;
         QSize size;
-        QScrollArea* area;  // whose content the part is
         QPoint scrolled;
     };
 
-    static QScrollArea* areaOf(const QWidget& part)
-    {
-        QWidget* above = part.parentWidget() ? part.parentWidget()->parentWidget() : nullptr;
-        auto* area = qobject_cast<QScrollArea*>(above);
-        return area && area->widget() == &part ? area : nullptr;
-    }
-
-    static controls::DataGrid* gridOf(const QWidget& part)
-    {
-        for (auto* view : part.findChildren<QTableView*>())
-            if (auto* grid = dynamic_cast<controls::DataGrid*>(view); grid && !grid->isHidden())
-                return grid;
-        return nullptr;
-    }
+    static bool showsGrid(const Part& part) { return part.grid && !part.grid->isHidden(); }
 
     static void setBars(controls::DataGrid& grid, Qt::ScrollBarPolicy policy)
     {
@@ -132,35 +120,36 @@ private:
 
     void stretch(Before& before)
     {
-        QWidget& part = *before.part;
-        if (before.area) {
-            before.scrolled = {before.area->horizontalScrollBar()->value(), before.area->verticalScrollBar()->value()};
-            before.area->setWidgetResizable(false);
+        QWidget& widget = *before.part.widget;
+        if (QScrollArea* area = before.part.area) {
+            before.scrolled = {area->horizontalScrollBar()->value(), area->verticalScrollBar()->value()};
+            area->setWidgetResizable(false);
         }
-        part.resize(m_width, part.height());  // headings wrap anew: the height follows the width
-        int height = part.hasHeightForWidth() ? part.heightForWidth(m_width) : part.sizeHint().height();
-        if (controls::DataGrid* grid = gridOf(part)) {
-            height += grid->wholeSize().height() - grid->sizeHint().height();
-            setBars(*grid, Qt::ScrollBarAlwaysOff);
+        widget.resize(m_width, widget.height());  // headings wrap anew: the height follows the width
+        int height = widget.hasHeightForWidth() ? widget.heightForWidth(m_width) : widget.sizeHint().height();
+        if (showsGrid(before.part)) {
+            controls::DataGrid& grid = *before.part.grid;
+            height += grid.wholeSize().height() - grid.sizeHint().height();
+            setBars(grid, Qt::ScrollBarAlwaysOff);
         }
         if (height > 0)
-            part.resize(m_width, height);
+            widget.resize(m_width, height);
     }
 
     int m_width;
     QList<Before> m_before;
 };
 
-// A widget told to paint on a printer paints a picture of dots; by way of a recording its text stays text.
-QPicture drawn(QWidget& form, const QList<QWidget*>& parts)
+// Painted on a printer, a widget becomes a bitmap; by way of a recording its text stays text.
+QPicture drawn(QWidget& form, const QList<Part>& parts)
 {
     const PaperPalette paper(form);
     const HeadingsOnTop onTop(parts);
     QPicture sheet;
     QPainter painter(&sheet);
-    for (QWidget* part : parts) {
-        part->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
-        painter.translate(0, part->height() + Gap);
+    for (const Part& part : parts) {
+        part.widget->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+        painter.translate(0, part.widget->height() + Gap);
     }
     return sheet;
 }
@@ -180,17 +169,14 @@ void checkWritten(const QPrinter& printer)
 
 }  // namespace
 
-void printForm(QWidget& form, const QList<controls::FormLayout::Part>& formParts, QPrinter& printer, int copies)
+void printForm(QWidget& form, const QList<Part>& parts, QPrinter& printer, int copies)
 {
     if (copies <= 0)
         return;
-    QList<QWidget*> parts;
-    for (const controls::FormLayout::Part& part : formParts)
-        parts.append(part.widget);
     const LaidOutForPaper paper(form, parts);
     QSize whole(paper.width(), -Gap);
-    for (const QWidget* part : parts)
-        whole.rheight() += part->height() + Gap;
+    for (const Part& part : parts)
+        whole.rheight() += part.widget->height() + Gap;
 
     printer.setCopyCount(1);  // the sheet is repeated here
     printer.setResolution(Resolution);

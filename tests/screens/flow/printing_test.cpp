@@ -224,7 +224,7 @@ TEST_F(PrintedSheet, IsRepeatedByTheProgramNotByThePrinterToo)
 {
     form.resize(400, 200);
     printer.setCopyCount(3);
-    flow::printForm(form, {{&part}}, printer, 3);
+    flow::printForm(form, {{.widget = &part}}, printer, 3);
     EXPECT_EQ(printer.copyCount(), 1) << "three copies are three pages, not nine";
     EXPECT_EQ(pagesOf(path.toStdString()), 3);
 }
@@ -232,15 +232,15 @@ TEST_F(PrintedSheet, IsRepeatedByTheProgramNotByThePrinterToo)
 TEST_F(PrintedSheet, StandsUprightWhenItIsHigherThanWide)
 {
     part.resize(200, 4000);
-    flow::printForm(form, {{&part}}, printer, 1);
+    flow::printForm(form, {{.widget = &part}}, printer, 1);
     const QSizeF paper = paperOf(path);
     EXPECT_LT(paper.width(), paper.height());
 }
 
 TEST_F(PrintedSheet, OfNoCopiesDoesNotEvenStartThePrinter)
 {
-    flow::printForm(form, {{&part}}, printer, 0);
-    flow::printForm(form, {{&part}}, printer, -1);
+    flow::printForm(form, {{.widget = &part}}, printer, 0);
+    flow::printForm(form, {{.widget = &part}}, printer, -1);
     EXPECT_FALSE(QFile::exists(path));
 }
 
@@ -250,7 +250,7 @@ TEST_F(PrintedSheet, ThatCannotBeWrittenIsAnError)
         QPrinter broken;
         broken.setOutputFormat(QPrinter::PdfFormat);
         broken.setOutputFileName(lost);
-        EXPECT_THROW(flow::printForm(form, {{&part}}, broken, 1), std::runtime_error) << lost.toStdString();
+        EXPECT_THROW(flow::printForm(form, {{.widget = &part}}, broken, 1), std::runtime_error) << lost.toStdString();
     }
 }
 
