@@ -1,12 +1,15 @@
 #include "screens/flow/printing.h"
 
-#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
 #include <QPainter>
 #include <QPicture>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QWidget>
 #include <algorithm>
+#include <numeric>
 #include <stdexcept>
 
 #include "screens/controls/data_grid.h"
@@ -21,6 +24,8 @@ constexpr int Resolution = 300;   // [dots per inch]
 constexpr int Gap = 6;            // between the parts [px]
 constexpr int UsualWidth = 1320;  // of a form, at 96 dots per inch [px]
 constexpr double MarginMm = 10.0;
+constexpr double MarginPoints = 7.5;  // size of the line in the bottom margin
+constexpr int LongestSubject = 50;    // of a sheet's name [characters]
 
 // Black on white for as long as the sheet is painted.
 class PaperPalette {
@@ -154,6 +159,59 @@ QPicture drawn(QWidget& form, const QList<Part>& parts)
     return sheet;
 }
 
+struct Fact {
+    QString label;
+    QString text;
+};
+
+// Elides the facts' texts in the middle, the longest first, until all of them have room side by side, `gap` apart.
+QStringList elided(const QList<Fact>& facts, const QFontMetrics& metrics, int gap, int room)
+{
+    QList<int> widths;
+    for (const Fact& fact : facts)
+        widths += metrics.horizontalAdvance(fact.label + fact.text) + gap;
+    int longest = room;
+    const auto sum = [&] {
+        return std::accumulate(widths.begin(), widths.end(), -gap,
+                               [&](int before, int width) { return before + std::min(width, longest + gap); });
+    };
+    while (longest > 0 && sum() > room)
+        --longest;
+    QStringList texts;
+    for (const auto& [label, text] : facts)
+        texts += label + metrics.elidedText(text, Qt::ElideMiddle, longest - metrics.horizontalAdvance(label));
+    return texts;
+}
+
+// The line in the page's bottom margin. Each text has its label: a name alone may be a railway's or a division's.
+void paintMargin(QPainter& painter, const SheetFacts& sheet, int page, int pages)
+{
+    QList<Fact> facts{{"Railway: ", sheet.railway.simplified()},
+                      {"Division: ", sheet.division.simplified()},
+                      {"Sr SE: ", sheet.srSe.simplified()},
+                      {"Data file: ", QFileInfo(sheet.dataFile).fileName().simplified()}};
+    facts.removeIf([](const Fact& fact) { return fact.text.isEmpty(); });
+    const QString date = QLocale::system().toString(sheet.printedAt.date(), QLocale::ShortFormat);
+    const QString time = sheet.printedAt.toString("HH:mm");
+    const QString last = QString("%1 %2   page %3 of %4").arg(date, time).arg(page).arg(pages);
+
+    painter.save();
+    QFont small = painter.font();
+    small.setPointSizeF(MarginPoints);
+    painter.setFont(small);
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int gap = 3 * metrics.averageCharWidth();
+    const QRect form = painter.viewport();
+    const QRect line(form.left(), form.bottom() + metrics.descent(), form.width(), metrics.height());
+    painter.drawText(line, Qt::AlignRight, last);
+    int x = line.left();
+    for (const QString& text : elided(facts, metrics, gap, line.width() - metrics.horizontalAdvance(last) - gap)) {
+        painter.drawText(QPoint(x, line.top() + metrics.ascent()), text);
+        x += metrics.horizontalAdvance(text) + gap;
+    }
+    painter.restore();
+}
+
 void checkWritten(const QPrinter& printer)
 {
     if (printer.printerState() == QPrinter::Error)
@@ -169,7 +227,15 @@ void checkWritten(const QPrinter& printer)
 
 }  // namespace
 
-void printForm(QWidget& form, const QList<Part>& parts, QPrinter& printer, int copies)
+QString sheetName(const QString& subject, const QString& caption)
+{
+    const QString first = subject.simplified().left(LongestSubject).trimmed();
+    QString name = (first.isEmpty() ? "" : first + " - ") + caption.simplified();
+    static const QRegularExpression refused("[/\\\\:*?\"<>|\\x00-\\x1f\\x7f]");
+    return name.replace(refused, "-");
+}
+
+void printForm(QWidget& form, const QList<Part>& parts, const SheetFacts& facts, QPrinter& printer, int copies)
 {
     if (copies <= 0)
         return;
@@ -200,6 +266,7 @@ void printForm(QWidget& form, const QList<Part>& parts, QPrinter& printer, int c
                       sheet.logicalDpiY() / static_cast<double>(painter.device()->logicalDpiY()));
         painter.drawPicture(0, 0, sheet);
         painter.restore();
+        paintMargin(painter, facts, 1, 1);  // of each copy: it is complete in itself
     }
     if (!painter.end())
         throw std::runtime_error("the printer did not finish");
