@@ -10,6 +10,7 @@
 #include "figures/numeric_text.h"
 #include "figures/picture.h"
 #include "screens/flow/chain.h"
+#include "screens/flow/printing.h"
 #include "start/frmStart.h"
 #include "track/frmT1.h"
 #include "track/frmT2.h"
@@ -121,7 +122,7 @@ void frmSummary::markShortage(int row)
 {
     controls::TextBox& box = txtEx(row);
     const bool shortage = figures::countUpTo(0, box.text().toStdString()) < 0;
-    box.setRed(shortage);
+    box.setReadableRed(shortage);
     QFont font = box.font();
     font.setBold(shortage);
     box.setFont(font);
@@ -341,6 +342,16 @@ void frmSummary::cmdTotal_Click()
     cmdExit.setEnabled(true);
     cmdExit.setVisible(true);
     cmdTotal.setVisible(false);
+}
+
+// Of the whole division: no Sr SE and no data file.
+flow::SheetFacts frmSummary::sheetFacts() const
+{
+    flow::SheetFacts facts;
+    facts.name = flow::sheetName("Division " + txtRly(1).text(), "Manpower Requirement Summary");
+    facts.railway = txtRly(0).text();
+    facts.division = txtRly(1).text();
+    return facts;
 }
 
 void frmSummary::onPrinted()

@@ -71,6 +71,7 @@ public:
     QWidget* firstBox() override;
 
 protected:
+    flow::SheetFacts sheetFacts() const override;
     void onPrinted() override;
 
 private:

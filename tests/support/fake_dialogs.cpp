@@ -42,6 +42,7 @@ void FakeDialogs::expectFile(const std::string& path)
 void FakeDialogs::expectPrint(const flow::PrintChoice& choice, const std::string& path)
 {
     m_expected.push_back({.kind = Kind::Print, .title = "", .text = path, .choice = choice});
+    m_expected.back().choice->at = PrintedAt;
 }
 
 void FakeDialogs::expectPrintCancelled()

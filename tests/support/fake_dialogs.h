@@ -9,6 +9,8 @@
 /// was expected and did not come.
 class FakeDialogs : public flow::Dialogs {
 public:
+    static inline const QDateTime PrintedAt{QDate(2026, 11, 21), QTime(14, 5)};
+
     ~FakeDialogs() override;
 
     void expectYesNo(const std::string& title, const std::string& prompt, bool answer);
@@ -17,7 +19,7 @@ public:
     void expectCriticalWith(const std::string& title, const std::string& part);
     void expectMessage(const std::string& title, const std::string& text);
     void expectFile(const std::string& path);
-    /// The print dialog, left with `choice`; the print-out goes to the PDF file `path`.
+    /// The print dialog, left with `choice` at PrintedAt; the print-out goes to the PDF file `path`.
     void expectPrint(const flow::PrintChoice& choice, const std::string& path);
     void expectPrintCancelled();
 

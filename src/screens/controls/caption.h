@@ -4,8 +4,8 @@
 
 namespace controls {
 
-/// A label whose text is kept to the letter while runs of blanks in it, which once wrapped it by hand, are shown as
-/// line breaks (three and more) or one blank. What is still too wide wraps at its words; nothing is cut off.
+/// A label that keeps its text verbatim but draws runs of three or more blanks (manual wrapping) as line breaks, and
+/// shorter runs as one blank. What is still too wide wraps at its words; nothing is cut off.
 class Caption : public QLabel {
 public:
     explicit Caption(const QString& text, QWidget* parent = nullptr);

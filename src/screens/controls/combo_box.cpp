@@ -7,12 +7,13 @@
 #include <QWheelEvent>
 
 #include "screens/controls/entry.h"
+#include "screens/controls/text_box.h"
 
 namespace controls {
 
 namespace {
 
-// On this platform the toolkit tells a list's text in the place of its name.
+// On Linux, Qt reports a combo box's current text as its accessible name; report it as the value.
 class SpokenComboBox : public QAccessibleWidget {
 public:
     explicit SpokenComboBox(ComboBox& box) : QAccessibleWidget(&box, QAccessible::ComboBox) {}
@@ -35,8 +36,8 @@ ComboBox::ComboBox(const QString& name)
 {
     [[maybe_unused]] static const bool spoken = (QAccessible::installFactory(speak), true);
     setObjectName(name);
-    // A completer would turn "Machine packed" into the list's "Machine Packed". The toolkit makes one for every line
-    // that comes without, and takes longer for it than for the line.
+    // A completer would turn "Machine packed" into the list's "Machine Packed". Qt creates one for every line edit that
+    // has none, which costs more than the line edit itself.
     static QCompleter none;
     auto* line = new QLineEdit;
     line->setCompleter(&none);
@@ -44,6 +45,12 @@ ComboBox::ComboBox(const QString& name)
     setCompleter(nullptr);
     setInsertPolicy(NoInsert);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+}
+
+void ComboBox::setLocked(bool locked)
+{
+    setEnabled(!locked);
+    setPalette(locked ? lockedFill() : QPalette());
 }
 
 void ComboBox::setText(const QString& text)

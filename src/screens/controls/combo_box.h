@@ -4,12 +4,12 @@
 namespace controls {
 
 /// A list that also takes a text of its own: an imported text that is not in the list is kept letter for letter.
-/// Locked means disabled. The wheel scrolls the rows, never the choice.
+/// Locked means disabled and filled pale. The wheel scrolls the rows, never the choice.
 class ComboBox : public QComboBox {
 public:
     explicit ComboBox(const QString& name);
 
-    void setLocked(bool locked) { setEnabled(!locked); }
+    void setLocked(bool locked);
     bool isLocked() const { return !isEnabled(); }
 
     QString text() const { return currentText(); }

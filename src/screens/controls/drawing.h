@@ -4,7 +4,7 @@
 
 namespace controls {
 
-/// A vector drawing, as large as its place allows without being distorted; on paper it stays a vector drawing.
+/// A vector drawing, scaled to the widget without distortion; on paper it stays a vector drawing.
 class Drawing : public QWidget {
 public:
     Drawing(const QString& name, const QString& file);

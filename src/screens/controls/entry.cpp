@@ -4,13 +4,12 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QScrollArea>
 #include <algorithm>
 #include <cstdlib>
-#include <vector>
 
 #include "screens/controls/combo_box.h"
+#include "screens/controls/paste.h"
 #include "screens/controls/row_sheet.h"
 #include "screens/controls/text_box.h"
 
@@ -18,40 +17,15 @@ namespace controls {
 
 namespace {
 
-bool openForTyping(const QWidget& widget)
-{
-    if (const auto* box = dynamic_cast<const TextBox*>(&widget))
-        return !box->isLocked() && box->isEnabled();
-    if (const auto* box = dynamic_cast<const ComboBox*>(&widget))
-        return !box->isLocked();
-    return false;
-}
-
-// Of the boxes that `inside` shows, those that are `wanted`.
-template <class Wanted>
-std::vector<QWidget*> boxesOf(const QWidget& inside, Qt::FindChildOptions depth, Wanted wanted)
-{
-    std::vector<QWidget*> boxes;
-    for (QWidget* child : inside.findChildren<QWidget*>(QString(), depth))
-        if (child->isVisibleTo(&inside) && wanted(*child))
-            boxes.push_back(child);
-    return boxes;
-}
-
-// A computed box is no column of the user's sheet. A choice that is forced in this row is one all the same, or the
-// cells behind it would go astray.
-bool takesCell(const QWidget& widget)
-{
-    return openForTyping(widget) || dynamic_cast<const ComboBox*>(&widget);
-}
-
 bool goToRow(QWidget& from, int direction)
 {
     const QWidget& form = *from.window();
     const QPoint here = from.mapTo(&form, from.rect().center());
     QWidget* nearest = nullptr;
     int least = 0;
-    for (QWidget* box : boxesOf(form, Qt::FindChildrenRecursively, openForTyping)) {
+    for (QWidget* box : form.findChildren<QWidget*>()) {
+        if (!box->isVisibleTo(&form) || !openForTyping(*box))
+            continue;
         const QPoint there = box->mapTo(&form, box->rect().center());
         const int down = (there.y() - here.y()) * direction;
         if (down < from.height() / 2)
@@ -67,33 +41,23 @@ bool goToRow(QWidget& from, int direction)
     return true;
 }
 
-// An ordinary paste, at the cursor.
-void insertInto(QWidget& widget, const QString& text)
-{
-    if (auto* box = dynamic_cast<TextBox*>(&widget))
-        box->insert(text);
-    else if (auto* combo = dynamic_cast<ComboBox*>(&widget))
-        combo->lineEdit()->insert(text);
-}
-
-void typeInto(QWidget& widget, const QString& text)
-{
-    if (!openForTyping(widget))
-        return;
-    if (auto* box = dynamic_cast<TextBox*>(&widget)) {
-        box->setText(text);
-        emit box->textEdited(text);  // a pasted figure is the user's as a typed one is
-    } else if (auto* combo = dynamic_cast<ComboBox*>(&widget)) {
-        combo->setText(text);
-    }
-}
-
 }  // namespace
+
+bool openForTyping(const QWidget& widget)
+{
+    if (const auto* box = dynamic_cast<const TextBox*>(&widget))
+        return !box->isLocked() && box->isEnabled();
+    if (const auto* box = dynamic_cast<const ComboBox*>(&widget))
+        return !box->isLocked();
+    return false;
+}
 
 bool handleEntryKey(QWidget& box, QKeyEvent& event)
 {
     if (event.matches(QKeySequence::Paste))
         return openForTyping(box) && pasteBlock(box, QGuiApplication::clipboard()->text());
+    if (event.matches(QKeySequence::Undo))
+        return undoPaste(box);
     if (event.modifiers() == Qt::AltModifier && !event.text().isEmpty()) {
         event.ignore();  // the mnemonic of a button that is closed now: no letter for the box
         return true;
@@ -114,43 +78,6 @@ bool handleEntryKey(QWidget& box, QKeyEvent& event)
     default:
         return false;
     }
-}
-
-bool pasteBlock(QWidget& first, const QString& block)
-{
-    QString cells = block;
-    cells.replace("\r\n", "\n").replace('\r', '\n');
-    if (cells.endsWith('\n'))
-        cells.chop(1);  // spreadsheets end the last row too
-    if (!cells.contains('\t') && !cells.contains('\n')) {
-        if (cells == block)
-            return false;
-        insertInto(first, cells);
-        return true;
-    }
-
-    // All positions first: a pasted count shows or hides rows while the block is on its way.
-    std::vector<QWidget*> boxes = boxesOf(*first.parentWidget(), Qt::FindDirectChildrenOnly, takesCell);
-    std::sort(boxes.begin(), boxes.end(), [](const QWidget* a, const QWidget* b) {
-        return std::pair(a->geometry().center().y(), a->x()) < std::pair(b->geometry().center().y(), b->x());
-    });
-    std::vector<std::vector<QWidget*>> rows;
-    for (QWidget* box : boxes) {
-        if (box->geometry().bottom() < first.y() || box->geometry().right() < first.x())
-            continue;
-        if (rows.empty() || rows.back().front()->geometry().center().y() != box->geometry().center().y())
-            rows.emplace_back();
-        rows.back().push_back(box);
-    }
-
-    const QStringList lines = cells.split('\n');
-    for (std::size_t row = 0; row < rows.size() && row < static_cast<std::size_t>(lines.size()); ++row) {
-        const QStringList texts = lines[static_cast<int>(row)].split('\t');
-        for (std::size_t column = 0; column < rows[row].size() && column < static_cast<std::size_t>(texts.size());
-             ++column)
-            typeInto(*rows[row][column], texts[static_cast<int>(column)]);
-    }
-    return true;
 }
 
 void bringIntoView(QWidget& box)

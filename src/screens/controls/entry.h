@@ -1,20 +1,16 @@
 #pragma once
-#include <QString>
-
 class QKeyEvent;
 class QWidget;
 
 /// How one fills a screen of boxes quickly: the keys that every entry box has in common.
 namespace controls {
 
-/// Enter goes on like Tab, Up and Down go between rows, Paste spreads a spreadsheet block, Alt and a letter type
-/// nothing. False if not one of these.
-bool handleEntryKey(QWidget& box, QKeyEvent& event);
+/// Whether the user may type into the control: a text box or list that is not locked.
+bool openForTyping(const QWidget& widget);
 
-/// Puts a block (cells apart by tabs, rows by line ends) into `first` and the boxes right of it and below, as the
-/// screen shows them. Locked text boxes are passed over, and the cell of a locked choice is dropped. One cell goes in
-/// at the cursor, without the line end that spreadsheets put behind it. False for a plain text: an ordinary paste.
-bool pasteBlock(QWidget& first, const QString& block);
+/// Enter goes on like Tab, Up and Down go between rows, Paste spreads a spreadsheet block and Undo takes it back, Alt
+/// and a letter type nothing. False if not one of these.
+bool handleEntryKey(QWidget& box, QKeyEvent& event);
 
 /// Scrolls the rows, and in a very small window all above the buttons, so that the control is in view.
 void bringIntoView(QWidget& box);

@@ -12,6 +12,7 @@
 #include "figures/numeric_text.h"
 #include "figures/picture.h"
 #include "screens/controls/entry.h"
+#include "screens/controls/paste.h"
 #include "screens/controls/tool_tip.h"
 
 namespace controls {
@@ -22,7 +23,9 @@ namespace {
 constexpr QRgb PaleFill = qRgb(255, 224, 192);
 constexpr QRgb Black = qRgb(0, 0, 0);
 constexpr QRgb Grey = qRgb(96, 96, 96);
-constexpr QRgb Red = qRgb(255, 0, 0);
+constexpr QRgb PureRed = qRgb(255, 0, 0);
+constexpr QRgb RedOnLight = qRgb(176, 0, 0);
+constexpr QRgb RedOnDark = qRgb(255, 144, 144);
 constexpr QRgb Remark = qRgb(192, 0, 32);
 
 // "12" where the picture prints "12."
@@ -53,23 +56,33 @@ void TextBox::setLocked(bool locked)
     updateRemark();
 }
 
-void TextBox::setRed(bool red)
+void TextBox::setInk(Ink ink)
 {
-    m_red = red;
+    m_ink = ink;
     paintFill();
+}
+
+QColor TextBox::readableRed() const
+{
+    const QColor fill = isLocked() ? QColor(PaleFill) : palette().color(QPalette::Base);
+    return qGray(fill.rgb()) < 128 ? RedOnDark : RedOnLight;
 }
 
 void TextBox::paintFill()
 {
-    QPalette fill;
-    if (isLocked()) {
-        fill.setColor(QPalette::Base, PaleFill);
-        fill.setColor(QPalette::Text, Black);
-        fill.setColor(QPalette::PlaceholderText, Grey);
-    }
-    if (m_red)
-        fill.setColor(QPalette::Text, Red);
+    QPalette fill = isLocked() ? lockedFill() : QPalette();
+    if (m_ink != Ink::Theme)
+        fill.setColor(QPalette::Text, m_ink == Ink::PureRed ? QColor(PureRed) : readableRed());
     setPalette(fill);
+}
+
+// The fill may turn dark or light under a readable red: with the theme, on paper, or as the box is unlocked.
+void TextBox::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    const bool fillMayDiffer = event->type() == QEvent::PaletteChange && m_ink == Ink::ReadableRed;
+    if (fillMayDiffer && palette().color(QPalette::Text) != readableRed())
+        paintFill();
 }
 
 void TextBox::setNumeric()
@@ -122,7 +135,7 @@ void TextBox::keyPressEvent(QKeyEvent* event)
 
 void TextBox::inputMethodEvent(QInputMethodEvent* event)
 {
-    // A read-only line of the toolkit takes what an input method sends late.
+    // A read-only QLineEdit takes what an input method sends late.
     if (isLocked())
         event->ignore();
     else
@@ -133,13 +146,18 @@ void TextBox::contextMenuEvent(QContextMenuEvent* event)
 {
     const std::unique_ptr<QMenu> menu(createStandardContextMenu());
     for (QAction* action : menu->actions()) {
-        if (action->text().section('\t', 0, 0) != QLineEdit::tr("&Paste"))
-            continue;
-        disconnect(action, nullptr, this, nullptr);
-        connect(action, &QAction::triggered, this, [this] {
-            if (!pasteBlock(*this, QGuiApplication::clipboard()->text()))
-                paste();
-        });
+        const QString name = action->text().section('\t', 0, 0);
+        if (name == QLineEdit::tr("&Paste")) {
+            disconnect(action, nullptr, this, nullptr);
+            connect(action, &QAction::triggered, this, [this] {
+                if (!pasteBlock(*this, QGuiApplication::clipboard()->text()))
+                    paste();
+            });
+        } else if (name == QLineEdit::tr("&Undo") && canUndoPaste(*this)) {
+            disconnect(action, nullptr, this, nullptr);
+            connect(action, &QAction::triggered, this, [this] { undoPaste(*this); });
+            action->setEnabled(true);
+        }
     }
     menu->exec(event->globalPos());
 }
@@ -173,6 +191,15 @@ void TextBox::paintEvent(QPaintEvent* event)
     painter.setBrush(QColor(Remark));
     const int corner = height() / 3;
     painter.drawPolygon(QPolygon({{1, 1}, {1 + corner, 1}, {1, 1 + corner}}));
+}
+
+QPalette lockedFill()
+{
+    QPalette fill;
+    fill.setColor(QPalette::Base, PaleFill);
+    fill.setColor(QPalette::Text, Black);
+    fill.setColor(QPalette::PlaceholderText, Grey);
+    return fill;
 }
 
 double valueOf(const TextBox& box)

@@ -14,9 +14,11 @@ public:
     void setLocked(bool locked);
     bool isLocked() const { return isReadOnly(); }
 
-    /// Red text marks a figure that has to be revised.
-    void setRed(bool red);
-    bool isRed() const { return m_red; }
+    /// Pure red text marks a figure that has to be revised.
+    void setRed(bool red) { setInk(red ? Ink::PureRed : Ink::Theme); }
+    /// The same in a red with a contrast of at least 4.5 to its fill, be it light, pale or dark.
+    void setReadableRed(bool red) { setInk(red ? Ink::ReadableRed : Ink::Theme); }
+    bool isRed() const { return m_ink != Ink::Theme; }
 
     /// The box is read as a number: right-aligned, and marked while its text is none.
     void setNumeric();
@@ -33,18 +35,26 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    enum class Ink { Theme, PureRed, ReadableRed };
+
+    void setInk(Ink ink);
+    QColor readableRed() const;
     void paintFill();
     void updateRemark();
 
-    bool m_red = false;
+    Ink m_ink = Ink::Theme;
     bool m_numeric = false;
     std::optional<int> m_limit;
     bool m_remarked = false;
     QString m_ownToolTip;
 };
+
+/// The pale fill and dark text of whatever is locked; the rest of the palette is the theme's.
+QPalette lockedFill();
 
 /// The figure in the box, by the lenient reading.
 double valueOf(const TextBox& box);

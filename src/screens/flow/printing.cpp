@@ -1,13 +1,15 @@
 #include "screens/flow/printing.h"
 
-#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
 #include <QPainter>
 #include <QPicture>
 #include <QPrinter>
-#include <QScrollArea>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QWidget>
 #include <algorithm>
+#include <numeric>
 #include <stdexcept>
 
 #include "screens/controls/data_grid.h"
@@ -22,6 +24,8 @@ constexpr int Resolution = 300;   // [dots per inch]
 constexpr int Gap = 6;            // between the parts [px]
 constexpr int UsualWidth = 1320;  // of a form, at 96 dots per inch [px]
 constexpr double MarginMm = 10.0;
+constexpr double MarginPoints = 7.5;  // size of the line in the bottom margin
+constexpr int LongestSubject = 50;    // of a sheet's name [characters]
 
 // Black on white for as long as the sheet is painted.
 class PaperPalette {
@@ -46,15 +50,17 @@ private:
     bool m_wasSet;
 };
 
+using Part = controls::FormLayout::Part;
+
 // Rows that the user has scrolled down stand under their headings on paper, not around them.
 class HeadingsOnTop {
 public:
-    explicit HeadingsOnTop(const QList<QWidget*>& parts)
+    explicit HeadingsOnTop(const QList<Part>& parts)
     {
-        for (QWidget* part : parts)
-            if (auto* rows = dynamic_cast<controls::RowSheet*>(part)) {
-                m_pinned.append({rows, rows->pinnedAt()});
-                rows->pinHeadings(0);
+        for (const Part& part : parts)
+            if (part.rows) {
+                m_pinned.append({part.rows, part.rows->pinnedAt()});
+                part.rows->pinHeadings(0);
             }
     }
     ~HeadingsOnTop()
@@ -73,27 +79,28 @@ private:
 // window: the same sheet on every desktop. The table of the data file is on it as far as a screen takes it over.
 class LaidOutForPaper {
 public:
-    LaidOutForPaper(const QWidget& form, const QList<QWidget*>& parts) : m_width(UsualWidth * form.logicalDpiX() / 96)
+    LaidOutForPaper(const QWidget& form, const QList<Part>& parts) : m_width(UsualWidth * form.logicalDpiX() / 96)
     {
-        for (QWidget* part : parts) {
-            m_before.append({part, part->size(), areaOf(*part), {}});
-            const controls::DataGrid* grid = gridOf(*part);
-            m_width = std::max({m_width, part->minimumSizeHint().width(), grid ? grid->wholeSize().width() : 0});
+        for (const Part& part : parts) {
+            m_before.append({part, part.widget->size(), {}});
+            m_width = std::max(m_width, part.widget->minimumSizeHint().width());
+            if (showsGrid(part))
+                m_width = std::max(m_width, part.grid->wholeSize().width());
         }
         for (Before& before : m_before)
             stretch(before);
     }
     ~LaidOutForPaper()
     {
-        for (const Before& before : m_before) {
-            before.part->resize(before.size);
-            if (controls::DataGrid* grid = gridOf(*before.part))
-                setBars(*grid, Qt::ScrollBarAsNeeded);
-            if (!before.area)
+        for (const auto& [part, size, scrolled] : m_before) {
+            part.widget->resize(size);
+            if (showsGrid(part))
+                setBars(*part.grid, Qt::ScrollBarAsNeeded);
+            if (!part.area)
                 continue;
-            before.area->setWidgetResizable(true);
-            before.area->horizontalScrollBar()->setValue(before.scrolled.x());
-            before.area->verticalScrollBar()->setValue(before.scrolled.y());
+            part.area->setWidgetResizable(true);
+            part.area->horizontalScrollBar()->setValue(scrolled.x());
+            part.area->verticalScrollBar()->setValue(scrolled.y());
         }
     }
     LaidOutForPaper(const LaidOutForPaper&) = delete;
@@ -103,26 +110,12 @@ public:
 
 private:
     struct Before {
-        QWidget* part;
+        Part part;
         QSize size;
-        QScrollArea* area;  // whose content the part is
         QPoint scrolled;
     };
 
-    static QScrollArea* areaOf(const QWidget& part)
-    {
-        QWidget* above = part.parentWidget() ? part.parentWidget()->parentWidget() : nullptr;
-        auto* area = qobject_cast<QScrollArea*>(above);
-        return area && area->widget() == &part ? area : nullptr;
-    }
-
-    static controls::DataGrid* gridOf(const QWidget& part)
-    {
-        for (auto* view : part.findChildren<QTableView*>())
-            if (auto* grid = dynamic_cast<controls::DataGrid*>(view); grid && !grid->isHidden())
-                return grid;
-        return nullptr;
-    }
+    static bool showsGrid(const Part& part) { return part.grid && !part.grid->isHidden(); }
 
     static void setBars(controls::DataGrid& grid, Qt::ScrollBarPolicy policy)
     {
@@ -132,37 +125,91 @@ private:
 
     void stretch(Before& before)
     {
-        QWidget& part = *before.part;
-        if (before.area) {
-            before.scrolled = {before.area->horizontalScrollBar()->value(), before.area->verticalScrollBar()->value()};
-            before.area->setWidgetResizable(false);
+        QWidget& widget = *before.part.widget;
+        if (QScrollArea* area = before.part.area) {
+            before.scrolled = {area->horizontalScrollBar()->value(), area->verticalScrollBar()->value()};
+            area->setWidgetResizable(false);
         }
-        part.resize(m_width, part.height());  // headings wrap anew: the height follows the width
-        int height = part.hasHeightForWidth() ? part.heightForWidth(m_width) : part.sizeHint().height();
-        if (controls::DataGrid* grid = gridOf(part)) {
-            height += grid->wholeSize().height() - grid->sizeHint().height();
-            setBars(*grid, Qt::ScrollBarAlwaysOff);
+        widget.resize(m_width, widget.height());  // headings wrap anew: the height follows the width
+        int height = widget.hasHeightForWidth() ? widget.heightForWidth(m_width) : widget.sizeHint().height();
+        if (showsGrid(before.part)) {
+            controls::DataGrid& grid = *before.part.grid;
+            height += grid.wholeSize().height() - grid.sizeHint().height();
+            setBars(grid, Qt::ScrollBarAlwaysOff);
         }
         if (height > 0)
-            part.resize(m_width, height);
+            widget.resize(m_width, height);
     }
 
     int m_width;
     QList<Before> m_before;
 };
 
-// A widget told to paint on a printer paints a picture of dots; by way of a recording its text stays text.
-QPicture drawn(QWidget& form, const QList<QWidget*>& parts)
+// Painted on a printer, a widget becomes a bitmap; by way of a recording its text stays text.
+QPicture drawn(QWidget& form, const QList<Part>& parts)
 {
     const PaperPalette paper(form);
     const HeadingsOnTop onTop(parts);
     QPicture sheet;
     QPainter painter(&sheet);
-    for (QWidget* part : parts) {
-        part->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
-        painter.translate(0, part->height() + Gap);
+    for (const Part& part : parts) {
+        part.widget->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+        painter.translate(0, part.widget->height() + Gap);
     }
     return sheet;
+}
+
+struct Fact {
+    QString label;
+    QString text;
+};
+
+// Elides the facts' texts in the middle, the longest first, until all of them have room side by side, `gap` apart.
+QStringList elided(const QList<Fact>& facts, const QFontMetrics& metrics, int gap, int room)
+{
+    QList<int> widths;
+    for (const Fact& fact : facts)
+        widths += metrics.horizontalAdvance(fact.label + fact.text) + gap;
+    int longest = room;
+    const auto sum = [&] {
+        return std::accumulate(widths.begin(), widths.end(), -gap,
+                               [&](int before, int width) { return before + std::min(width, longest + gap); });
+    };
+    while (longest > 0 && sum() > room)
+        --longest;
+    QStringList texts;
+    for (const auto& [label, text] : facts)
+        texts += label + metrics.elidedText(text, Qt::ElideMiddle, longest - metrics.horizontalAdvance(label));
+    return texts;
+}
+
+// The line in the page's bottom margin. Each text has its label: a name alone may be a railway's or a division's.
+void paintMargin(QPainter& painter, const SheetFacts& sheet, int page, int pages)
+{
+    QList<Fact> facts{{"Railway: ", sheet.railway.simplified()},
+                      {"Division: ", sheet.division.simplified()},
+                      {"Sr SE: ", sheet.srSe.simplified()},
+                      {"Data file: ", QFileInfo(sheet.dataFile).fileName().simplified()}};
+    facts.removeIf([](const Fact& fact) { return fact.text.isEmpty(); });
+    const QString date = QLocale::system().toString(sheet.printedAt.date(), QLocale::ShortFormat);
+    const QString time = sheet.printedAt.toString("HH:mm");
+    const QString last = QString("%1 %2   page %3 of %4").arg(date, time).arg(page).arg(pages);
+
+    painter.save();
+    QFont small = painter.font();
+    small.setPointSizeF(MarginPoints);
+    painter.setFont(small);
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int gap = 3 * metrics.averageCharWidth();
+    const QRect form = painter.viewport();
+    const QRect line(form.left(), form.bottom() + metrics.descent(), form.width(), metrics.height());
+    painter.drawText(line, Qt::AlignRight, last);
+    int x = line.left();
+    for (const QString& text : elided(facts, metrics, gap, line.width() - metrics.horizontalAdvance(last) - gap)) {
+        painter.drawText(QPoint(x, line.top() + metrics.ascent()), text);
+        x += metrics.horizontalAdvance(text) + gap;
+    }
+    painter.restore();
 }
 
 void checkWritten(const QPrinter& printer)
@@ -180,17 +227,22 @@ void checkWritten(const QPrinter& printer)
 
 }  // namespace
 
-void printForm(QWidget& form, const QList<controls::FormLayout::Part>& formParts, QPrinter& printer, int copies)
+QString sheetName(const QString& subject, const QString& caption)
+{
+    const QString first = subject.simplified().left(LongestSubject).trimmed();
+    QString name = (first.isEmpty() ? "" : first + " - ") + caption.simplified();
+    static const QRegularExpression refused("[/\\\\:*?\"<>|\\x00-\\x1f\\x7f]");
+    return name.replace(refused, "-");
+}
+
+void printForm(QWidget& form, const QList<Part>& parts, const SheetFacts& facts, QPrinter& printer, int copies)
 {
     if (copies <= 0)
         return;
-    QList<QWidget*> parts;
-    for (const controls::FormLayout::Part& part : formParts)
-        parts.append(part.widget);
     const LaidOutForPaper paper(form, parts);
     QSize whole(paper.width(), -Gap);
-    for (const QWidget* part : parts)
-        whole.rheight() += part->height() + Gap;
+    for (const Part& part : parts)
+        whole.rheight() += part.widget->height() + Gap;
 
     printer.setCopyCount(1);  // the sheet is repeated here
     printer.setResolution(Resolution);
@@ -214,6 +266,7 @@ void printForm(QWidget& form, const QList<controls::FormLayout::Part>& formParts
                       sheet.logicalDpiY() / static_cast<double>(painter.device()->logicalDpiY()));
         painter.drawPicture(0, 0, sheet);
         painter.restore();
+        paintMargin(painter, facts, 1, 1);  // of each copy: it is complete in itself
     }
     if (!painter.end())
         throw std::runtime_error("the printer did not finish");

@@ -41,12 +41,24 @@ bool Screen::dialogIsOpen()
     return QApplication::activeModalWidget();
 }
 
+SheetFacts Screen::sheetFacts() const
+{
+    const SrSe& at = chain.srSe();
+    const QString srSe = at.index + " " + at.name;
+    return {.name = sheetName(srSe, windowTitle()),
+            .railway = at.railway,
+            .division = at.division,
+            .srSe = srSe,
+            .dataFile = at.dataFile,
+            .printedAt = {}};
+}
+
 void Screen::cmdPrint_Click()
 {
     try {
         QPrinter printer;
-        // Also the name that the dialog offers for a file: another one for each Sr SE's screen.
-        printer.setDocName(chain.srSe().index + " " + windowTitle().simplified());
+        SheetFacts facts = sheetFacts();
+        printer.setDocName(facts.name);
         const auto choice = chain.dialogs().print(*this, printer);
         if (!choice)
             return;
@@ -54,7 +66,8 @@ void Screen::cmdPrint_Click()
         figures::toInt16(choice->firstPage, "the first page");
         figures::toInt16(choice->lastPage, "the last page");
         const int copies = figures::toInt16(choice->copies, "the number of copies");
-        printForm(*this, form.parts(), printer, copies);
+        facts.printedAt = choice->at;
+        printForm(*this, form.parts(), facts, printer, copies);
         onPrinted();
     } catch (const std::exception&) {
         // A print-out that failed shows itself by not lying in the tray; the figures stand, and Print can be repeated.

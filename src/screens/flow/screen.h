@@ -11,6 +11,7 @@
 namespace flow {
 
 class Chain;
+struct SheetFacts;
 
 /// What every screen has: its caption, the date box that the clock keeps, Print, and the guard its handlers run in.
 class Screen : public QWidget {
@@ -38,6 +39,8 @@ protected:
 
     /// Prints the form once for each copy asked for. An error ends it quietly.
     void cmdPrint_Click();
+    /// Of the printed form.
+    virtual SheetFacts sheetFacts() const;
     /// Behind the last copy.
     virtual void onPrinted() {}
 

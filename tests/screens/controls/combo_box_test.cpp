@@ -129,7 +129,31 @@ TEST_F(MethodBox, TheWheelScrollsTheRowsNeverTheChoice)
     EXPECT_EQ(method.text(), "Machine Packed");
 }
 
-TEST_F(MethodBox, LockedIsDisabled)
+TEST_F(MethodBox, LockedIsDisabledAndPaleWithDarkTextWhateverTheTheme)
+{
+    const QPalette light = QApplication::palette();
+    const QPalette dark(Qt::white, QColor(60, 60, 60), QColor(80, 80, 80), Qt::black, QColor(40, 40, 40), Qt::white,
+                        QColor(30, 30, 30));
+    method.setText("Machine Packed");
+    for (const QPalette& theme : {light, dark}) {
+        QApplication::setPalette(theme);
+        QApplication::processEvents();
+        method.setLocked(true);
+        for (const QWidget* part : {static_cast<QWidget*>(&method), static_cast<QWidget*>(method.lineEdit())}) {
+            EXPECT_EQ(part->palette().color(QPalette::Base), QColor(255, 224, 192));
+            EXPECT_EQ(part->palette().color(QPalette::Text), QColor(Qt::black));
+        }
+        const QImage locked = method.grab().toImage();
+        EXPECT_EQ(locked.pixelColor(method.lineEdit()->geometry().bottomRight() - QPoint(2, 2)), QColor(255, 224, 192))
+            << "as it is drawn";
+        method.setLocked(false);
+        EXPECT_EQ(method.palette().color(QPalette::Base), theme.color(QPalette::Base));
+        EXPECT_EQ(method.lineEdit()->palette().color(QPalette::Text), theme.color(QPalette::Text));
+    }
+    QApplication::setPalette(light);
+}
+
+TEST_F(MethodBox, LockedItsTextIsWrittenByTheProgramAlone)
 {
     method.setLocked(true);
     EXPECT_TRUE(method.isLocked());
@@ -137,7 +161,7 @@ TEST_F(MethodBox, LockedIsDisabled)
     method.setText("Manually Packed");
     EXPECT_EQ(method.text(), "Manually Packed") << "code writes a locked box";
     QTest::keyClick(&before, Qt::Key_Tab);
-    EXPECT_TRUE(behind.hasFocus());
+    EXPECT_TRUE(behind.hasFocus()) << "Tab passes it";
     method.setLocked(false);
     EXPECT_TRUE(method.isEnabled());
 }

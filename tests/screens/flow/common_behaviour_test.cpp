@@ -122,7 +122,10 @@ TEST_F(DataScreenTest, APrintOutIsOfferedUnderANameOfItsOwn)
 {
     chain.get<frmStart>().txtT1(4).setText("7");
     print(1, pdf());
-    EXPECT_EQ(dialogs.lastSheet(), "7 Entering Track Data");
+    EXPECT_EQ(dialogs.lastSheet(), "7 - Entering Track Data");
+    chain.get<frmStart>().txtT1(0).setText("Sr SE Ambapur");
+    print(1, pdf());
+    EXPECT_EQ(dialogs.lastSheet(), "7 Sr SE Ambapur - Entering Track Data");
 }
 
 TEST_F(DataScreenTest, NoCopiesPrintNothingYetCountAsPrinted)

@@ -1,6 +1,7 @@
 #include "screens/flow/dialogs.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -160,6 +161,49 @@ TEST_F(DesktopDialogsTest, ThePrintDialogGivesItsCopies)
     const auto choice = dialogs.print(parent, printer);
     ASSERT_TRUE(choice.has_value());
     EXPECT_EQ(choice->copies, 3);
+}
+
+TEST_F(DesktopDialogsTest, ThePrintDialogOffersTheSheetsNameInTheFolderOfTheLastPrintOut)
+{
+    QTemporaryDir folder;
+    const auto offered = [&](const QString& sheet, const QString& chosen) {
+        QString offer;
+        QPrinter printer;
+        printer.setDocName(sheet);
+        answer<QPrintDialog>([&](QPrintDialog& dialog) {
+            auto* printers = dialog.findChild<QComboBox*>("printers");
+            auto* file = dialog.findChild<QLineEdit*>("filename");
+            ASSERT_TRUE(printers && file);
+            offer = file->text();
+            printers->setCurrentIndex(printers->count() - 1);  // "Print to File (PDF)"
+            EXPECT_EQ(file->text(), offer);
+            if (!chosen.isEmpty()) {
+                file->setText(chosen);
+                dialog.accept();
+            }
+        });
+        EXPECT_EQ(dialogs.print(parent, printer).has_value(), !chosen.isEmpty());
+        return offer;
+    };
+    const QString name = "1 Sr.SE Ambapur - Entering Track Data";
+    EXPECT_EQ(offered(name, folder.filePath("mine.pdf")), QDir::home().filePath(name + ".pdf"));
+    EXPECT_EQ(offered(name, ""), folder.filePath(name + ".pdf")) << "the folder chosen last";
+    EXPECT_EQ(offered(name, QDir::temp().filePath("crewmark-print.pdf")), folder.filePath(name + ".pdf"))
+        << "Cancel changes nothing";
+    EXPECT_EQ(offered(name, folder.filePath("mine.pdf")), QDir::temp().filePath(name + ".pdf"));
+    folder.remove();
+    EXPECT_EQ(offered(name, ""), QDir::home().filePath(name + ".pdf")) << "its disk has been taken out";
+}
+
+TEST_F(DesktopDialogsTest, ThePrintDialogLeavesTheChoiceOfAPrinterAsQtHasIt)
+{
+    QPrinter printer;
+    printer.setDocName("1 Sr SE Ambapur - Entering Track Data");
+    const QPrinter::OutputFormat before = printer.outputFormat();
+    answer<QPrintDialog>([](QPrintDialog& dialog) { dialog.reject(); });
+    EXPECT_FALSE(dialogs.print(parent, printer).has_value());
+    EXPECT_EQ(printer.outputFormat(), before);
+    EXPECT_EQ(printer.outputFileName(), "") << "a printer chosen after it would print to that file";
 }
 
 TEST_F(DesktopDialogsTest, ThePrintDialogCancelledGivesNothing)

@@ -218,13 +218,14 @@ protected:
     QPrinter printer;
     QWidget form;
     QWidget part{&form};
+    const flow::SheetFacts facts{};
 };
 
 TEST_F(PrintedSheet, IsRepeatedByTheProgramNotByThePrinterToo)
 {
     form.resize(400, 200);
     printer.setCopyCount(3);
-    flow::printForm(form, {{&part}}, printer, 3);
+    flow::printForm(form, {{.widget = &part}}, facts, printer, 3);
     EXPECT_EQ(printer.copyCount(), 1) << "three copies are three pages, not nine";
     EXPECT_EQ(pagesOf(path.toStdString()), 3);
 }
@@ -232,15 +233,15 @@ TEST_F(PrintedSheet, IsRepeatedByTheProgramNotByThePrinterToo)
 TEST_F(PrintedSheet, StandsUprightWhenItIsHigherThanWide)
 {
     part.resize(200, 4000);
-    flow::printForm(form, {{&part}}, printer, 1);
+    flow::printForm(form, {{.widget = &part}}, facts, printer, 1);
     const QSizeF paper = paperOf(path);
     EXPECT_LT(paper.width(), paper.height());
 }
 
 TEST_F(PrintedSheet, OfNoCopiesDoesNotEvenStartThePrinter)
 {
-    flow::printForm(form, {{&part}}, printer, 0);
-    flow::printForm(form, {{&part}}, printer, -1);
+    flow::printForm(form, {{.widget = &part}}, facts, printer, 0);
+    flow::printForm(form, {{.widget = &part}}, facts, printer, -1);
     EXPECT_FALSE(QFile::exists(path));
 }
 
@@ -250,7 +251,49 @@ TEST_F(PrintedSheet, ThatCannotBeWrittenIsAnError)
         QPrinter broken;
         broken.setOutputFormat(QPrinter::PdfFormat);
         broken.setOutputFileName(lost);
-        EXPECT_THROW(flow::printForm(form, {{&part}}, broken, 1), std::runtime_error) << lost.toStdString();
+        EXPECT_THROW(flow::printForm(form, {{.widget = &part}}, facts, broken, 1), std::runtime_error)
+            << lost.toStdString();
+    }
+}
+
+struct Named {
+    const char* name;
+    const char* subject;
+    const char* caption;
+    const char* sheet;
+};
+
+class SheetNames : public testing::TestWithParam<Named> {};
+
+TEST_P(SheetNames, AreOnesThatAnyDiskTakes)
+{
+    EXPECT_EQ(flow::sheetName(GetParam().subject, GetParam().caption).toStdString(), GetParam().sheet);
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Subjects, SheetNames, testing::Values(
+    //    name          subject              caption                   sheet
+    Named{"SrSe",       "1 Sr SE Ambapur",   "Entering Track Data",    "1 Sr SE Ambapur - Entering Track Data"},
+    Named{"Division",   "Division X",        "Summary",                "Division X - Summary"},
+    Named{"Blanks",     " 1   Ambapur ",     "Data  on Form  ",        "1 Ambapur - Data on Form"},
+    Named{"Nothing",    "  ",                "Entering Track Data",    "Entering Track Data"},
+    Named{"Points",     "1 Sr.SE Ambapur",   "Data (continued).....",  "1 Sr.SE Ambapur - Data (continued)....."},
+    Named{"Slashes",    "1 P.Way/Ambapur\\N", "Track",                 "1 P.Way-Ambapur-N - Track"},
+    Named{"Windows",    "1 <A> \"B\": *?|",   "Track",                 "1 -A- -B-- --- - Track"},
+    Named{"Control",    "1 A\x01\x7f" "B",    "Track",                 "1 A--B - Track"},
+    Named{"Hindi",      "1 अंबापुर",           "Track",                  "1 अंबापुर - Track"}),
+    [](const auto& tested) { return tested.param.name; });
+// clang-format on
+
+TEST(SheetName, IsNotTooLongForTheDisk)
+{
+    const QTemporaryDir folder;
+    for (const QString& name : {QString(300, QChar(0x0905)), QString("x").repeated(32'000)}) {
+        const QString sheet = flow::sheetName(
+            "15 " + name, "Calculations  of Mandays required for ' T ' and ' R ' activities of main line");
+        QFile file(folder.filePath(sheet + ".pdf"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << sheet.toStdString();
+        EXPECT_TRUE(sheet.endsWith("activities of main line"));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QTest>
 
 #include "screens/controls/data_grid.h"
@@ -82,6 +83,37 @@ TEST_F(Paste, TakesWhatWasCopiedFromTheGrid)
     EXPECT_NE(text("txtM6(3)"), "");
     click("cmdYdata");
     EXPECT_EQ(byHand, pasted()) << "the import takes the same cells";
+}
+
+TEST_F(Paste, SaysHowManyRowsTheScreenHasNoRoomForAndCtrlZTakesAllBack)
+{
+    on<frmT1>();
+    chain.get<frmT1>().txtNSeg.setText("2");
+    chain.get<frmT1>().txtKmf(1).setText("7");
+    settle();
+    paste("txtKmf(0)", "100\t112.5\n112.5\t120\n120\t131\n");
+    const auto* notice = find("txtKmf(0)").window()->findChild<QLabel*>("pasteNotice");
+    ASSERT_NE(notice, nullptr);
+    EXPECT_EQ(notice->text().toStdString(),
+              "Pasted: 2 of 3 rows. Left out: 1, because no more rows are shown. Ctrl+Z undoes the paste.");
+    EXPECT_TRUE(notice->isVisible());
+    EXPECT_EQ(texts("txtKmt", 0, 2), "112.5|120|");
+    key("txtKmt(1)", Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(texts("txtKmf", 0, 1), "|7");
+    EXPECT_EQ(texts("txtKmt", 0, 1), "|");
+}
+
+TEST_F(Paste, ACountThatWasCutAndTheBoxesItShowedGoBackToo)
+{
+    on<frmS2>();
+    type("txtTB1", "2");
+    EXPECT_EQ(shownOf("txtND", 0, 7), "11000000");
+    paste("txtTB1", "99\t1\n");  // two cells: a block
+    EXPECT_EQ(text("txtTB1"), "8");
+    EXPECT_EQ(shownOf("txtND", 0, 7), "11111111");
+    key("txtTB1", Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text("txtTB1"), "2");
+    EXPECT_EQ(shownOf("txtND", 0, 7), "11000000");
 }
 
 }  // namespace

@@ -4,13 +4,17 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QImage>
-#include <QPainter>
+#include <QLocale>
+#include <QPrinter>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStandardPaths>
 #include <QTest>
+#include <algorithm>
 
+#include "screens/flow/printing.h"
 #include "screens/usability/ten_screens.h"
 
 namespace {
@@ -40,6 +44,60 @@ protected:
     }
 
     static QByteArray textOn(const QString& pdf) { return read("pdftotext", {"-layout", pdf, "-"}); }
+
+    struct Word {
+        QString text;
+        QRectF box;  ///< [points]
+    };
+    struct Page {
+        QSizeF size;  ///< [points]
+        std::vector<Word> margin;
+    };
+
+    /// The first page with the words in its bottom margin, from left to right; "" where the tool is not installed.
+    static Page marginOf(const QString& pdf)
+    {
+        const QString text = QString::fromUtf8(read("pdftotext", {"-bbox", "-l", "1", pdf, "-"}));
+        static const QRegularExpression size("<page width=\"([0-9.]+)\" height=\"([0-9.]+)\"");
+        static const QRegularExpression word("<word xMin=\"(\\S+)\" yMin=\"(\\S+)\" xMax=\"(\\S+)\" "
+                                             "yMax=\"(\\S+)\">([^<]*)</word>");
+        const auto number = [](const QRegularExpressionMatch& match, int i) { return match.captured(i).toDouble(); };
+        const QRegularExpressionMatch whole = size.match(text);
+        Page page{{number(whole, 1), number(whole, 2)}, {}};
+        for (auto each = word.globalMatch(text); each.hasNext();) {
+            const QRegularExpressionMatch match = each.next();
+            const QPointF topLeft(number(match, 1), number(match, 2));
+            if (topLeft.y() > page.size.height() - TenMm)
+                page.margin.push_back(
+                    {match.captured(5).replace("ﬁ", "fi"), {topLeft, QPointF(number(match, 3), number(match, 4))}});
+        }
+        std::sort(page.margin.begin(), page.margin.end(),
+                  [](const Word& a, const Word& b) { return a.box.left() < b.box.left(); });
+        return page;
+    }
+
+    static std::string wordsOf(const Page& page)
+    {
+        QStringList words;
+        for (const Word& word : page.margin)
+            words += word.text;
+        return words.join(' ').toStdString();
+    }
+
+    /// Between the form and what printers leave blank, in its place from side to side, no word over another.
+    static void expectInPlace(const Page& page)
+    {
+        double free = TenMm - 1;
+        for (const Word& word : page.margin) {
+            EXPECT_GE(word.box.left(), free) << word.text.toStdString();
+            EXPECT_LT(word.box.bottom(), page.size.height() - TenMm / 2) << word.text.toStdString();
+            EXPECT_GE(word.box.height(), 7) << "too small to read";
+            free = word.box.right();
+        }
+        EXPECT_LE(free, page.size.width() - TenMm + 1);
+    }
+
+    static constexpr double TenMm = 10 / 25.4 * 72;  // [points]
 
     /// Of the rows; the start screen has none.
     static QScrollBar* scrollBarOf(const QWidget& form)
@@ -149,6 +207,84 @@ TEST_F(Sheets, WhatASmallWindowHasScrolledAwayIsOnThem)
         EXPECT_EQ(down ? down->value() : 0, scrolled) << "the screen has moved";
         EXPECT_EQ(textOn(pdf).toStdString(), texts[i].toStdString());
         EXPECT_TRUE(pictureOf(pdf) == sheets[i]) << "laid out anew";
+    }
+}
+
+// What tells one sheet from another
+
+TEST_F(Sheets, AreOfferedUnderSrSeAndCaptionTheSummaryUnderItsDivision)
+{
+    const std::string names[] = {
+        "1 Sr SE Ambapur - Calculations of Crewmark Based on PLKTN Commitees's Report",
+        "1 Sr SE Ambapur - Entering Track Data",
+        "1 Sr SE Ambapur - Entering Data on Formation , Rainfall and Curves",
+        "1 Sr SE Ambapur - Calculations of Mandays required for ' T ' and ' R ' activities of main line",
+        "1 Sr SE Ambapur - Entering Yard Data",
+        "1 Sr SE Ambapur - Data Entry for - For Miscelleneous Activities",
+        "1 Sr SE Ambapur - Data Entry for Miscelleneous Activities (continued).....",
+        "1 Sr SE Ambapur - Data Entry for Site Specefic Activiries 'S'",
+        "1 Sr SE Ambapur - Data Entry for Site Specefic Activities 'S' (Continued)",
+        "Division Sample Division - Manpower Requirement Summary",
+    };
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        print(*steps[i].form);
+        EXPECT_EQ(dialogs.lastSheet(), names[i]);
+    }
+}
+
+TEST_F(Sheets, SayInTheirMarginWhoseTheyAreAndWhenTheyWerePrinted)
+{
+    if (QStandardPaths::findExecutable("pdftotext").isEmpty())
+        GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+    const std::string printed =
+        QLocale::system().toString(FakeDialogs::PrintedAt.date(), QLocale::ShortFormat).toStdString() +
+        " 14:05 page 1 of 1";
+    for (const Step& step : steps) {
+        SCOPED_TRACE(step.form->objectName().toStdString());
+        const bool ofDivision = step.form == steps.back().form;
+        const Page page = marginOf(print(*step.form));
+        EXPECT_EQ(wordsOf(page), "Railway: Sample Railway Division: Sample Division " +
+                                     std::string(ofDivision ? "" : "Sr SE: 1 Sr SE Ambapur Data file: 1-ambapur.mdb ") +
+                                     printed);
+        expectInPlace(page);
+    }
+}
+
+TEST_F(Sheets, EachCopyIsPageOneOfOne)
+{
+    if (QStandardPaths::findExecutable("pdftotext").isEmpty())
+        GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+    const QString path = folder.filePath("copies.pdf");
+    dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 3}, path.toStdString());
+    QTest::keyClick(&steps[0].form->cmdPrint, Qt::Key_Return);
+    EXPECT_EQ(textOn(path).simplified().count("14:05 page 1 of 1"), 3);
+}
+
+TEST_F(Sheets, LongNamesInTheMarginAreShortenedInTheMiddle)
+{
+    if (QStandardPaths::findExecutable("pdftotext").isEmpty())
+        GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+    const QString path = folder.filePath("long.pdf");
+    const flow::SheetFacts facts{.name = {},
+                                 .railway = "Short",
+                                 .division = "D" + QString("ivision").repeated(4'000) + "End",
+                                 .srSe = "15 A" + QString(200, 'W') + "Z",
+                                 .dataFile = "/folder/B" + QString(150, 'W') + ".mdb",
+                                 .printedAt = FakeDialogs::PrintedAt};
+    for (const QSize size : {QSize(1320, 700), QSize(200, 4000)}) {  // across the paper and upright
+        QWidget form;
+        QWidget part(&form);
+        part.resize(size);
+        QPrinter printer;
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+        flow::printForm(form, {{.widget = &part}}, facts, printer, 1);
+        const Page page = marginOf(path);
+        expectInPlace(page);
+        const QString words = QString::fromStdString(wordsOf(page));
+        static const QRegularExpression shortened("^Railway: Short Division: Div[a-z]*…[a-z]*End Sr SE: 15 AW*…W+Z "
+                                                  "Data file: BW+…W+\\.mdb \\S+ 14:05 page 1 of 1$");
+        EXPECT_TRUE(shortened.match(words).hasMatch()) << words.toStdString();
     }
 }
 
