@@ -1,16 +1,10 @@
 #include <QApplication>
 #include <QLocale>
 #include <clocale>
-#include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
 
-// The offscreen platform remarks on every window that it can neither raise nor keep from shrinking.
-static void quiet(QtMsgType, const QMessageLogContext&, const QString& message)
-{
-    if (!message.startsWith("This plugin does not support"))
-        std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
-}
+#include "division/offscreen.h"
 
 int main(int argc, char* argv[])
 {
@@ -22,7 +16,7 @@ int main(int argc, char* argv[])
             setenv("LC_ALL", foreign, 1);
             break;
         }
-    qInstallMessageHandler(quiet);
+    division::silenceOffscreenRemarks();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();

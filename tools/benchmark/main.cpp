@@ -46,7 +46,7 @@ void oneRound(Samples& samples, const Effort& effort)
 
     const auto example = [&](const QString& figure, int srSes) {
         jobs::run(samples, figure, Bin + "crewmark-example",
-                  {"--no-print-outs", QString("--sr-ses=%1").arg(srSes), "--samples=" + SampleFiles});
+                  {"--no-print-outs", QString("--sr-ses=%1").arg(srSes), SampleFiles + "/division.crewmark"});
     };
     example("example", effort.srSes);
     example("example of one", 1);

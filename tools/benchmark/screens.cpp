@@ -7,8 +7,7 @@
 #include <cstdio>
 #include <exception>
 
-#include "summary/frmSummary.h"
-#include "track/frmT1.h"
+#include "division/offscreen.h"
 #include "walk.h"
 
 namespace {
@@ -31,7 +30,7 @@ void letRun(int milliseconds)
 // The summary stands there with the cursor in a box, the nine others are hidden, and nobody does anything.
 void idle(Walk& walk, int milliseconds)
 {
-    auto& summary = walk.chain().get<frmSummary>();
+    flow::Screen& summary = *walk.chain().find("frmSummary");
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window != &summary)
             window->hide();
@@ -65,7 +64,7 @@ void loaded(Walk& walk)
     reportMemory("ten loaded");
 }
 
-void division(Walk& walk, int srSes)
+void wholeDivision(Walk& walk, int srSes)
 {
     walk.setReporting(false);
     for (int index = 1; index <= srSes; ++index) {
@@ -92,17 +91,11 @@ void segments(Walk& walk, const QString& file)
     walk.track();
 }
 
-void quiet(QtMsgType, const QMessageLogContext&, const QString& message)
-{
-    if (!message.startsWith("This plugin does not support"))
-        std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
-}
-
 }  // namespace
 
 int main(int argc, char* argv[])
 {
-    qInstallMessageHandler(quiet);
+    division::silenceOffscreenRemarks();
     QApplication application(argc, argv);
     QApplication::setCursorFlashTime(0);  // as main.cpp has it
     QApplication::setQuitOnLastWindowClosed(false);
@@ -126,7 +119,7 @@ int main(int argc, char* argv[])
         else if (what == "loaded")
             loaded(walk);
         else if (what == "division")
-            division(walk, line.value(srSes).toInt());
+            wholeDivision(walk, line.value(srSes).toInt());
         else if (what == "table")
             table(walk, line.value(file));
         else if (what == "segments")

@@ -1,23 +1,12 @@
 #include "walk.h"
 
-#include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QTest>
 #include <array>
 #include <stdexcept>
 
-#include "activities/misc/frmM1.h"
-#include "activities/misc/frmM2.h"
-#include "activities/site/frmS1.h"
-#include "activities/site/frmS2.h"
 #include "compose.h"
 #include "start/frmStart.h"
-#include "summary/frmSummary.h"
-#include "track/frmT1.h"
-#include "track/frmT2.h"
-#include "track/frmT4.h"
-#include "yards/frmY.h"
 
 namespace {
 
@@ -53,16 +42,17 @@ void Walk::report(const QString& figure, double value) const
         probe::report(figure + " " + m_form->objectName(), value);
 }
 
-// The button's handler alone, as the user's click runs it.
+// The handler alone, as the user's click or key runs it.
+void Walk::perform(const division::Act& act)
+{
+    division::perform(*m_form, act);
+    if (!m_dialogs.errors.isEmpty())
+        throw std::runtime_error(m_dialogs.errors.first().toStdString());
+}
+
 void Walk::press(const char* button)
 {
-    auto* found = m_form->findChild<QAbstractButton*>(button);
-    if (!found || !found->isEnabled())
-        throw std::runtime_error(m_form->objectName().toStdString() + ": " + button + " cannot be pressed");
-    const QPoint mark = found->inherits("QPushButton") ? found->rect().center() : QPoint(9, found->height() / 2);
-    QTest::mouseClick(found, Qt::LeftButton, {}, mark);
-    if (!m_dialogs.trouble.isEmpty())
-        throw std::runtime_error(m_dialogs.trouble.toStdString());
+    perform({.control = button});
 }
 
 void Walk::timed(const QString& figure, const char* button)
@@ -75,25 +65,23 @@ void Walk::timed(const QString& figure, const char* button)
     report("cpu " + figure, cost.worked());
 }
 
-template <class Form>
-void Walk::goTo(const char* button)
+void Walk::goTo(const division::Step& step, const char* button)
 {
     const Cost cost;
     press(button);
-    m_form = &m_chain.get<Form>();
-    if (!m_form->isVisible())
-        throw std::runtime_error(m_form->objectName().toStdString() + " did not appear");
+    m_form = m_chain.find(step.form);
+    if (!m_form || !m_form->isVisible())
+        throw std::runtime_error(std::string(step.form) + " did not appear");
     m_painting.settle(*m_form);
     report("next", cost.waited());
     report("cpu next", cost.worked());
-    m_hands.takeUp(*m_form);
 }
 
 void Walk::print()
 {
-    m_dialogs.nextPrintOut = m_scratch + "/" + m_form->objectName() + ".pdf";
+    m_dialogs.printOut = m_scratch + "/" + m_form->objectName() + ".pdf";
     timed("print", "cmdPrint");
-    const QFileInfo paper(m_dialogs.nextPrintOut);
+    const QFileInfo paper(m_dialogs.printOut);
     if (!paper.exists())
         throw std::runtime_error("nothing was printed");
     report("paper", static_cast<double>(paper.size()));
@@ -102,54 +90,44 @@ void Walk::print()
 void Walk::proceed(int index, const QString& file)
 {
     m_form = &m_chain.get<frmStart>();
-    m_hands.takeUp(*m_form);
     if (index == 1)
-        m_hands.type("txtT1(3)", "15");
-    m_hands.type("txtT1(0)", QString("Sr SE %1").arg(index));
-    m_dialogs.nextFile = file;
+        perform({"txtT1(3)", "15"});
+    perform({"txtT1(0)", QString("Sr SE %1").arg(index)});
+    m_dialogs.dataFile = file;
     press("cmdFile");
     m_painting.settle(*m_form);
-    goTo<frmT1>("cmdProceed");
+    goTo(division::Steps[1], division::Steps[0].next);
     press(Gauges[static_cast<std::size_t>(index - 1) % Gauges.size()]);
     m_painting.settle(*m_form);
 }
 
-void Walk::track()
+// Up to Print.
+void Walk::work(const division::Step& step)
 {
-    timed("import", "cmdCopy");
-    timed("compute", "cmdCompute");
+    if (*step.import)
+        timed("import", step.import);
+    timed("compute", step.compute);
 }
 
-template <class Form>
-void Walk::step(const char* import, const char* compute)
+void Walk::track()
 {
-    goTo<Form>("cmdNext");
-    if (*import)
-        timed("import", import);
-    timed("compute", compute);
-    if (m_reporting)
-        print();
+    work(division::Steps[1]);
 }
 
 void Walk::oneSrSe(int index)
 {
     proceed(index, m_samples + "/" + Files[static_cast<std::size_t>(index - 1) % Files.size()]);
-    track();
-    if (m_reporting)
-        print();
-    step<frmT2>("cmdCopy", "cmdCompute");
-    step<frmT4>("", "cmdCompute");
-    step<frmY>("cmdYdata", "cmdCOMPUTE");
-    step<frmM1>("cmdData", "cmdCompute");
-    step<frmM2>("cmdData", "cmdCompute");
-    step<frmS1>("cmdData", "cmdCompute");
-    step<frmS2>("cmdData", "cmdCompute");
-    goTo<frmSummary>("cmdNext");
-    timed("transfer", "cmdTransfer");
+    for (std::size_t i = 1; i + 1 < division::Steps.size(); ++i) {
+        work(division::Steps[i]);
+        if (m_reporting)
+            print();
+        goTo(division::Steps[i + 1], division::Steps[i].next);
+    }
+    timed("transfer", division::Steps.back().import);
 }
 
 void Walk::sumUp()
 {
-    timed("compute", "cmdCompute");
+    timed("compute", division::Steps.back().compute);
     m_painting.settle(m_chain.get<frmStart>());
 }

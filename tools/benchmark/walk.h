@@ -1,12 +1,13 @@
 #pragma once
 #include <QString>
 
-#include "example_dialogs.h"
-#include "hands.h"
+#include "division/act.h"
+#include "division/replay_dialogs.h"
+#include "division/steps.h"
 #include "probe.h"
 #include "screens/flow/chain.h"
 
-/// Goes through the screens of a division by clicks and reports what the user waits for at each of them [ms]:
+/// Goes through the screens of a division as a user does and reports what the user waits for at each of them [ms]:
 /// "next frmT1", "import frmT1", "compute frmT1", "print frmT1", and "paper frmT1" [byte], the size of the print-out.
 /// "cpu next frmT1" is what the processor worked for it, "compute handler of frmT1" the time until the results stand in
 /// the boxes.
@@ -30,10 +31,9 @@ public:
     probe::Painting& painting() { return m_painting; }
 
 private:
-    template <class Form>
-    void goTo(const char* button);
-    template <class Form>
-    void step(const char* import, const char* compute);
+    void goTo(const division::Step& step, const char* button);
+    void work(const division::Step& step);
+    void perform(const division::Act& act);
     void press(const char* button);
     void timed(const QString& figure, const char* button);
     void print();
@@ -41,10 +41,9 @@ private:
 
     QString m_samples;
     QString m_scratch;
-    ExampleDialogs m_dialogs;
+    division::ReplayDialogs m_dialogs;
     flow::Chain m_chain{m_dialogs};
     probe::Painting m_painting;
-    Hands m_hands;
-    QWidget* m_form = nullptr;
+    flow::Screen* m_form = nullptr;
     bool m_reporting = true;
 };

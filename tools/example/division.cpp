@@ -1,212 +1,182 @@
 #include "division.h"
 
+#include <QApplication>
 #include <QFile>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QRegularExpression>
 #include <array>
 #include <cstdio>
 #include <stdexcept>
 
-#include "activities/misc/frmM1.h"
-#include "activities/misc/frmM2.h"
-#include "activities/site/frmS1.h"
-#include "activities/site/frmS2.h"
 #include "compose.h"
-#include "example_dialogs.h"
-#include "hands.h"
+#include "division/replay.h"
+#include "division/replay_dialogs.h"
 #include "screens/flow/chain.h"
-#include "start/frmStart.h"
-#include "summary/frmSummary.h"
-#include "track/frmT1.h"
-#include "track/frmT2.h"
-#include "track/frmT4.h"
-#include "yards/frmY.h"
+#include "screens/flow/placement.h"
+
+using division::KeptDivision;
+using division::Moment;
+using division::State;
 
 namespace {
 
-struct SrSe {
-    const char* file;
-    const char* name;
-    const char* gauge;  // its option button, "" where the suburban box chooses it
-};
-constexpr std::array Sample = {
-    SrSe{"1-ambapur", "Sr SE Ambapur", "optBG"},
-    SrSe{"2-eklahra", "Sr SE Eklahra", "optBG"},
-    SrSe{"3-jamunia", "Sr SE Jamunia", ""},
-    SrSe{"4-mandar-hill", "Sr SE Mandar Hill", "optMG"},
-    SrSe{"5-parasnath-ghat", "Sr SE Parasnath Ghat", "optNG"},
-};
-
-constexpr QSize UsualSize(1340, 690);
-
 class Worker {
 public:
-    explicit Worker(const Division& division) : m_division(division) { compose(m_chain); }
+    Worker(const KeptDivision& division, const Output& output) : m_division(division), m_output(output)
+    {
+        compose(m_chain);
+    }
 
     void work();
 
 private:
-    template <class Form>
-    void takeUp();
-    void enter(const SrSe& srSe, int index);
-    template <class Form>
-    void step(const char* import, const char* compute);
-    void sumUp();
-    void press(const char* button);
-    void tell(const QString& what) const;
-    void photograph(const QString& state);
-    void print();
+    void look(const Moment& moment);
+    void checkErrors() const;
+    QString stemOf(const Moment& moment) const;
+    void tell(const Moment& moment) const;
+    void photograph(const Moment& moment) const;
+    void print(const Moment& moment);
+    void printTable() const;
 
-    const Division& m_division;
-    ExampleDialogs m_dialogs;
+    const KeptDivision& m_division;
+    const Output& m_output;
+    division::ReplayDialogs m_dialogs;
     flow::Chain m_chain{m_dialogs};
-    Hands m_hands;
-    QWidget* m_form = nullptr;
-    QString m_stem;  // of the file names: "1-ambapur"
-    int m_index = 0;
 };
 
-template <class Form>
-void Worker::takeUp()
+// No example should see one.
+void Worker::checkErrors() const
 {
-    auto& form = m_chain.get<Form>();
-    if (!form.isVisible())
-        throw std::runtime_error(form.objectName().toStdString() + " did not appear");
-    form.resize(UsualSize);
-    m_form = &form;
-    m_hands.takeUp(form);
+    if (!m_dialogs.errors.isEmpty())
+        throw std::runtime_error(m_dialogs.errors.first().toStdString());
 }
 
-void Worker::press(const char* button)
+// Of the file names: "01-ambapur".
+QString Worker::stemOf(const Moment& moment) const
 {
-    m_hands.click(button);
-    if (!m_dialogs.trouble.isEmpty())
-        throw std::runtime_error(m_dialogs.trouble.toStdString());
+    if (moment.srSe == 0)
+        return "division";
+    const QString& file = m_division.workings[static_cast<std::size_t>(moment.srSe) - 1].dataFile;
+    static const QRegularExpression number("^\\d+-");
+    return QString("%1-%2").arg(moment.srSe, 2, 10, QChar('0')).arg(QFileInfo(file).baseName().remove(number));
 }
 
-void Worker::tell(const QString& what) const
+void Worker::tell(const Moment& moment) const
 {
-    std::printf("Sr SE %d of %d: %s\n", m_index, m_division.srSes, what.toUtf8().constData());
+    const bool atStart = moment.screen.objectName() == "frmStart";
+    const QString what = atStart ? m_division.workings[static_cast<std::size_t>(moment.srSe) - 1].name
+                                 : moment.screen.windowTitle().simplified();
+    std::printf("Sr SE %d of %zu: %s\n", moment.srSe, m_division.workings.size(), what.toUtf8().constData());
     std::fflush(stdout);
 }
 
-void Worker::photograph(const QString& state)
+void Worker::photograph(const Moment& moment) const
 {
-    const QString folder = m_division.output + "/";
-    if (m_division.guide && m_index == 1)
-        m_hands.photograph(folder + m_form->objectName() + "-" + state + ".png");
-    else if (m_division.printOuts && state == "computed")
-        m_hands.photograph(folder + m_stem + "-" + m_form->objectName() + ".png");
-}
-
-void Worker::print()
-{
-    if (!m_division.printOuts)
+    constexpr std::array states = {"empty", "filled", "computed"};
+    const QString form = moment.screen.objectName();
+    QString name;
+    if (m_output.guide && moment.srSe <= 1)
+        name = form + "-" + states[static_cast<std::size_t>(moment.state)];
+    else if (m_output.printOuts && moment.state == State::Computed)
+        name = stemOf(moment) + "-" + form;
+    else
         return;
-    m_dialogs.nextPrintOut = m_division.output + "/" + m_stem + "-" + m_form->objectName() + ".pdf";
-    press("cmdPrint");
-    if (!QFile::exists(m_dialogs.nextPrintOut))
-        throw std::runtime_error("nothing was printed to " + m_dialogs.nextPrintOut.toStdString());
+    moment.screen.resize(flow::OpeningSize);
+    for (int i = 0; i < 4; ++i)  // what was shown is laid out, and what wraps then once more
+        QApplication::processEvents();
+    const QString file = m_output.folder + "/" + name + ".png";
+    if (!moment.screen.grab().save(file))
+        throw std::runtime_error("cannot write " + file.toStdString());
 }
 
-void Worker::enter(const SrSe& srSe, int index)
+void Worker::print(const Moment& moment)
 {
-    m_index = index;
-    const QString round = index > static_cast<int>(Sample.size()) ? QString(" %1").arg(index) : QString();
-    m_stem = QString("%1-%2").arg(index, 2, 10, QChar('0')).arg(QString(srSe.file).section('-', 1));
-    takeUp<frmStart>();
-    photograph("empty");
-    if (index == 1) {
-        m_hands.type("txtT1(5)", "Sample Railway");
-        m_hands.type("txtT1(2)", "Sample Division");
-        m_hands.type("txtT1(3)", QString::number(m_division.srSes));
-    }
-    m_hands.type("txtT1(0)", srSe.name + round);
-    m_dialogs.nextFile = m_division.samples + "/" + srSe.file + ".mdb";
-    press("cmdFile");
-    tell(m_hands.text("txtT1(0)"));
-    photograph("computed");
-    print();
-    press("cmdProceed");
-
-    takeUp<frmT1>();
-    m_hands.type("txtT1(0)", "Sample Section");
-    m_hands.type("txtT1(2)", "Km 0 to 100");
-    press(*srSe.gauge ? srSe.gauge : "chkSub");
+    if (!m_output.printOuts || moment.state != State::Computed)
+        return;
+    m_dialogs.printOut = m_output.folder + "/" + stemOf(moment) + "-" + moment.screen.objectName() + ".pdf";
+    division::perform(moment.screen, {.control = "cmdPrint"});
+    checkErrors();
+    if (!QFile::exists(m_dialogs.printOut))
+        throw std::runtime_error("nothing was printed to " + m_dialogs.printOut.toStdString());
 }
 
-template <class Form>
-void Worker::step(const char* import, const char* compute)
+void Worker::look(const Moment& moment)
 {
-    takeUp<Form>();
-    tell(m_form->windowTitle().simplified());
-    photograph("empty");
-    if (*import) {
-        press(import);
-        photograph("filled");
-    }
-    press(compute);
-    photograph("computed");
-    print();
-    press("cmdNext");
+    checkErrors();
+    if (moment.state == State::Empty)
+        tell(moment);
+    const bool table = moment.screen.objectName() == "frmSummary" && moment.state == State::Computed;
+    if (table && moment.srSe > 0)
+        return;  // it is complete when the totals are
+    photograph(moment);
+    print(moment);
 }
 
-void Worker::sumUp()
+void Worker::printTable() const
 {
-    takeUp<frmSummary>();
-    tell(m_form->windowTitle());
-    photograph("empty");
-    press("cmdTransfer");
-    photograph("filled");
-    press("cmdCompute");
-}
-
-void printTable(const frmSummary& summary, int srSes)
-{
-    const std::array columns = {&summary.txtSN, &summary.txtSSE,  &summary.txtTkm, &summary.txtTR, &summary.txtM,
-                                &summary.txtS,  &summary.txtTMan, &summary.txtKey, &summary.txtLR, &summary.txtCS,
-                                &summary.txtSS, &summary.txtSDC,  &summary.txtEx};
-    constexpr std::array headings = {"No",     "Sr SE", "Km",       "T+R",    "M",      "S",  "Mandays",
-                                     "Keymen", "LR",    "Strength", "Sanctd", "Decas.", "+/-"};
-    constexpr int total = 15;
-    std::printf("\n");
-    for (int row = -1; row <= srSes; ++row) {
-        for (std::size_t c = 0; c < columns.size(); ++c) {
-            const bool name = columns[c] == &summary.txtSSE;
-            const QString text = row < 0 ? QString(headings[c]) : (*columns[c])(row == srSes ? total : row).text();
-            std::printf("%s ", (name ? text.leftJustified(24) : text.rightJustified(9)).toUtf8().constData());
+    struct Column {
+        const char* heading;
+        const char* boxes;
+        int width;  // left-aligned if negative
+    };
+    constexpr std::array columns = {
+        Column{"No", "txtSN", 9},        Column{"Sr SE", "txtSSE", -24}, Column{"Km", "txtTkm", 9},
+        Column{"T+R", "txtTR", 9},       Column{"M", "txtM", 9},         Column{"S", "txtS", 9},
+        Column{"Mandays", "txtTMan", 9}, Column{"Keymen", "txtKey", 9},  Column{"LR", "txtLR", 9},
+        Column{"Strength", "txtCS", 9},  Column{"Sanctd", "txtSS", 9},   Column{"Decas.", "txtSDC", 9},
+        Column{"+/-", "txtEx", 9},
+    };
+    const flow::Screen& summary = *m_chain.find("frmSummary");
+    const auto line = [&](const auto& text) {
+        for (const Column& column : columns) {
+            const QString cell = text(column);
+            std::printf("%s ",
+                        (column.width < 0 ? cell.leftJustified(-column.width) : cell.rightJustified(column.width))
+                            .toUtf8()
+                            .constData());
         }
         std::printf("\n");
-    }
+    };
+    const auto row = [&](int index) {
+        line([&](const Column& column) {
+            return summary.findChild<QLineEdit*>(QString("%1(%2)").arg(column.boxes).arg(index))->text();
+        });
+    };
+    std::printf("\n");
+    line([](const Column& column) { return QString(column.heading); });
+    for (int srSe = 0; srSe < static_cast<int>(m_division.workings.size()); ++srSe)
+        row(srSe);
+    row(15);
 }
 
 void Worker::work()
 {
-    m_chain.show<frmStart>();
-    for (int index = 1; index <= m_division.srSes; ++index) {
-        enter(Sample[static_cast<std::size_t>(index - 1) % Sample.size()], index);
-        step<frmT1>("cmdCopy", "cmdCompute");
-        step<frmT2>("cmdCopy", "cmdCompute");
-        step<frmT4>("", "cmdCompute");
-        step<frmY>("cmdYdata", "cmdCOMPUTE");
-        step<frmM1>("cmdData", "cmdCompute");
-        step<frmM2>("cmdData", "cmdCompute");
-        step<frmS1>("cmdData", "cmdCompute");
-        step<frmS2>("cmdData", "cmdCompute");
-        sumUp();
-    }
-    m_stem = "division";
-    press("cmdTotal");
-    m_index = m_division.guide ? 1 : m_index;  // the guide shows the finished table
-    photograph("computed");
-    print();
-    printTable(m_chain.get<frmSummary>(), m_division.srSes);
-    press("cmdExit");
+    division::replay(m_division, m_chain, m_dialogs, [this](const Moment& moment) { look(moment); });
+    checkErrors();
+    printTable();
 }
 
 }  // namespace
 
-void workDivision(const Division& division)
+KeptDivision repeated(KeptDivision division, int srSes)
 {
-    if (division.srSes < 1 || division.srSes > 15)
+    if (srSes < 1 || srSes > 15)
         throw std::runtime_error("a division has 1 to 15 Sr SEs");
-    Worker(division).work();
+    const auto wanted = static_cast<std::size_t>(srSes);
+    const std::size_t given = division.workings.size();
+    if (given == 0)
+        throw std::runtime_error("there is no Sr SE to be worked");
+    division.srSes = srSes;
+    division.workings.resize(wanted);
+    for (std::size_t i = given; i < wanted; ++i) {
+        division.workings[i] = division.workings[i % given];
+        division.workings[i].name += QString(" %1").arg(i + 1);
+    }
+    return division;
+}
+
+void workDivision(const KeptDivision& division, const Output& output)
+{
+    Worker(division, output).work();
 }

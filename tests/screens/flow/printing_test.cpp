@@ -62,12 +62,14 @@ protected:
         for (int i = 0; i < 16; ++i)
             form.txtKmf(i).setText(QString::number(100 + i));
         form.cmdPrint.setEnabled(true);
-        sized(1340, 690);
+        sized(flow::OpeningSize);
     }
 
-    void sized(int width, int height)
+    static constexpr QSize Low{flow::OpeningSize.width(), 330};
+
+    void sized(QSize size)
     {
-        form.resize(width, height);
+        form.resize(size);
         for (int i = 0; i < 3; ++i)
             settle();
     }
@@ -97,7 +99,7 @@ TEST_F(PrintedForm, IsTheWholeFormAlsoWhatASmallWindowHasScrolledAway)
 {
     const QByteArray whole = drawnOn(print("whole.pdf"));
     EXPECT_GT(whole.count("Tj") + whole.count("TJ"), 16 * 3) << "number, line and method of each segment at least";
-    sized(1340, 330);
+    sized(Low);
     ASSERT_GT(area().verticalScrollBar()->maximum(), 100);
     const QByteArray small = drawnOn(print("small.pdf"));
     EXPECT_EQ(small.count("Tj") + small.count("TJ"), whole.count("Tj") + whole.count("TJ"));
@@ -106,10 +108,10 @@ TEST_F(PrintedForm, IsTheWholeFormAlsoWhatASmallWindowHasScrolledAway)
 TEST_F(PrintedForm, IsTheSameHoweverSmallOrLargeTheWindow)
 {
     showTable();
-    sized(1340, 690);
+    sized(flow::OpeningSize);
     const QByteArray usual = drawnOn(print("usual.pdf"));
-    for (const QSize window : {QSize(900, 434), QSize(1340, 1002), QSize(1894, 1002)}) {
-        sized(window.width(), window.height());
+    for (const QSize window : {QSize(900, 434), QSize(flow::OpeningSize.width(), 1002), QSize(1894, 1002)}) {
+        sized(window);
         area().horizontalScrollBar()->setValue(area().horizontalScrollBar()->maximum());
         area().verticalScrollBar()->setValue(area().verticalScrollBar()->maximum());
         settle();
@@ -137,7 +139,7 @@ TEST_F(PrintedForm, HasNoScrollBars)
         }
     };
     showTable();
-    sized(1000, 330);
+    sized({1000, 330});
     BarWatch bars;
     qApp->installEventFilter(&bars);
     form.grab();
@@ -150,7 +152,7 @@ TEST_F(PrintedForm, HasNoScrollBars)
 
 TEST_F(PrintedForm, HasItsHeadingsOnTopHoweverFarItIsScrolled)
 {
-    sized(1340, 330);
+    sized(Low);
     const QByteArray top = drawnOn(print("top.pdf"));
     area().verticalScrollBar()->setValue(120);
     settle();
