@@ -91,30 +91,30 @@ void frmSummary::layOut()
 // All but the totals is open for typing: Grand Total reads what stands in the table.
 RowSheet* frmSummary::table()
 {
-    auto* rows = new RowSheet("Sr SE", MaxSrSes);
-    rows->withTotalRow();
-    rows->heading("   S.No     (Index)").entry(txtSN, 5);
-    rows->heading("    Sr       S.E.").textEntry(txtSSE, 22);
-    rows->heading("    Total    Km").entry(txtTkm, 8);
-    rows->heading("  Mandays          for            ('T'+ 'R')  ").entry(txtTR, 10);
-    rows->heading("  Mandays            for                 ('M')  ").entry(txtM, 9);
-    rows->heading("  Mandays            for                  ('S')  ").entry(txtS, 9);
-    rows->heading("   Total             Mandays       (T+R+M+S)").entry(txtTMan, 10);
-    rows->heading("  No of        Mates       Keymen").entry(txtKey, 7);
-    rows->heading("Leave      Res-       erve").entry(txtLR, 6);
-    rows->heading(" Calcu      lated Strength").entry(txtCS, 8);
-    rows->heading("Sanctd. Strength").entry(txtSS, 8);
-    rows->heading("  Sanctd            Decasua-    - lized  posts").entry(txtSDC, 8);
-    rows->heading("Excess(+) Shortage(-)").entry(txtEx, 8);
-    rows->finish();
-    rows->showRows(1);
+    auto* sheet = new RowSheet("Sr SE", MaxSrSes);
+    sheet->withTotalRow();
+    sheet->heading("   S.No     (Index)").entry(txtSN, 5);
+    sheet->heading("    Sr       S.E.").textEntry(txtSSE, 22);
+    sheet->heading("    Total    Km").entry(txtTkm, 8);
+    sheet->heading("  Mandays          for            ('T'+ 'R')  ").entry(txtTR, 10);
+    sheet->heading("  Mandays            for                 ('M')  ").entry(txtM, 9);
+    sheet->heading("  Mandays            for                  ('S')  ").entry(txtS, 9);
+    sheet->heading("   Total             Mandays       (T+R+M+S)").entry(txtTMan, 10);
+    sheet->heading("  No of        Mates       Keymen").entry(txtKey, 7);
+    sheet->heading("Leave      Res-       erve").entry(txtLR, 6);
+    sheet->heading(" Calcu      lated Strength").entry(txtCS, 8);
+    sheet->heading("Sanctd. Strength").entry(txtSS, 8);
+    sheet->heading("  Sanctd            Decasua-    - lized  posts").entry(txtSDC, 8);
+    sheet->heading("Excess(+) Shortage(-)").entry(txtEx, 8);
+    sheet->finish();
+    sheet->showRows(1);
     txtSN(Total).setText("Total");
     for (int row = 0; row < Rows; ++row) {
         connect(&txtEx(row), &QLineEdit::textChanged, this, [this, row] { markShortage(row); });
         for (Column* establishment : {&txtKey, &txtLR, &txtSS, &txtSDC})
             connect(&(*establishment)(row), &QLineEdit::textEdited, this, [this, row] { typedByHand(row); });
     }
-    return rows;
+    return sheet;
 }
 
 // A shortage is told from an excess by its minus sign, by red, and by bold for colour-blind users.
@@ -201,30 +201,20 @@ void frmSummary::typedByHand(int row)
 void frmSummary::cmdCompute_Click()
 {
     const int r = row();
-    const auto at = static_cast<std::size_t>(r);
-    RowKm[at] = valueOf(txtTkm(r));
-    RowTR[at] = valueOf(txtTR(r));
-    RowM[at] = valueOf(txtM(r));
-    RowS[at] = valueOf(txtS(r));
-    RowKey[at] = valueOf(txtKey(r));
-    RowLR[at] = valueOf(txtKey(r));
-    RowSS[at] = valueOf(txtSS(r));
-    RowSDC[at] = valueOf(txtSDC(r));
-
     m_inWork = &txtTR;
-    const summary::Strength strength = summary::strengthOf({.trMandays = RowTR[at],
-                                                            .mMandays = RowM[at],
-                                                            .sMandays = RowS[at],
-                                                            .matesAndKeymen = RowKey[at],
-                                                            .sanctioned = RowSS[at],
-                                                            .decasualisedPosts = RowSDC[at]},
-                                                           r);
-    RowTMan[at] = strength.mandays;
-    RowCS[at] = strength.calculated;
-    RowEx[at] = strength.excess;
-    setText(txtTMan(r), picture(RowTMan[at], "#####.##"));
-    setText(txtCS(r), picture(RowCS[at], "####"));
-    setText(txtEx(r), picture(RowEx[at], "####"));
+    const summary::TableRow computed = summary::withStrength({.RowKm = valueOf(txtTkm(r)),
+                                                              .RowTR = valueOf(txtTR(r)),
+                                                              .RowM = valueOf(txtM(r)),
+                                                              .RowS = valueOf(txtS(r)),
+                                                              .RowKey = valueOf(txtKey(r)),
+                                                              .RowLR = valueOf(txtKey(r)),
+                                                              .RowSS = valueOf(txtSS(r)),
+                                                              .RowSDC = valueOf(txtSDC(r))},
+                                                             r);
+    rows[static_cast<std::size_t>(r)] = computed;
+    setText(txtTMan(r), picture(computed.RowTMan, "#####.##"));
+    setText(txtCS(r), picture(computed.RowCS, "####"));
+    setText(txtEx(r), picture(computed.RowEx, "####"));
 
     if (SrSEIndex < NumSrSE)
         nextSrSe();
@@ -261,81 +251,41 @@ void frmSummary::lastSrSe()
     cmdCompute.setEnabled(false);
 }
 
-summary::TableRow frmSummary::readRow(int row)
+summary::TableRow frmSummary::readRow(int row) const
 {
-    const auto at = static_cast<std::size_t>(row);
-    RowKm[at] = valueOf(txtTkm(row));
-    RowTR[at] = valueOf(txtTR(row));
-    RowM[at] = valueOf(txtM(row));
-    RowS[at] = valueOf(txtS(row));
-    RowTMan[at] = valueOf(txtTMan(row));
-    RowCS[at] = figures::toSingle(valueOf(txtCS(row)), numbered("the calculated strength at row", row), row);
-    RowKey[at] = valueOf(txtKey(row));
-    RowLR[at] = valueOf(txtLR(row));
-    RowSS[at] = valueOf(txtSS(row));
-    RowSDC[at] = valueOf(txtSDC(row));
-    RowEx[at] = valueOf(txtEx(row));
-    return {.km = RowKm[at],
-            .trMandays = RowTR[at],
-            .mMandays = RowM[at],
-            .sMandays = RowS[at],
-            .mandays = RowTMan[at],
-            .calculated = RowCS[at],
-            .matesAndKeymen = RowKey[at],
-            .leaveReserve = RowLR[at],
-            .sanctioned = RowSS[at],
-            .decasualisedPosts = RowSDC[at],
-            .excess = RowEx[at]};
-}
-
-void frmSummary::addRows(std::span<const summary::TableRow> rows)
-{
-    const summary::TableTotals sum = summary::addRows({.km = TotKm,
-                                                       .trMandays = TotTR,
-                                                       .mMandays = TotM,
-                                                       .sMandays = TotS,
-                                                       .mandays = TotTMan,
-                                                       .calculated = TotCS,
-                                                       .matesAndKeymen = TotKey,
-                                                       .leaveReserve = TotLR,
-                                                       .sanctioned = TotSS,
-                                                       .decasualisedPosts = TotSDC,
-                                                       .excess = TotEx},
-                                                      rows);
-    TotKm = sum.km;
-    TotTR = sum.trMandays;
-    TotM = sum.mMandays;
-    TotS = sum.sMandays;
-    TotTMan = sum.mandays;
-    TotCS = sum.calculated;
-    TotKey = sum.matesAndKeymen;
-    TotLR = sum.leaveReserve;
-    TotSS = sum.sanctioned;
-    TotSDC = sum.decasualisedPosts;
-    TotEx = sum.excess;
+    return {.RowKm = valueOf(txtTkm(row)),
+            .RowTR = valueOf(txtTR(row)),
+            .RowM = valueOf(txtM(row)),
+            .RowS = valueOf(txtS(row)),
+            .RowTMan = valueOf(txtTMan(row)),
+            .RowCS = figures::toSingle(valueOf(txtCS(row)), numbered("the calculated strength at row", row), row),
+            .RowKey = valueOf(txtKey(row)),
+            .RowLR = valueOf(txtLR(row)),
+            .RowSS = valueOf(txtSS(row)),
+            .RowSDC = valueOf(txtSDC(row)),
+            .RowEx = valueOf(txtEx(row))};
 }
 
 void frmSummary::cmdTotal_Click()
 {
-    const int count = figures::wholeRows(NumSrSE);
-    std::array<summary::TableRow, Rows> rows;
+    const auto count = static_cast<std::size_t>(figures::wholeRows(NumSrSE));
     m_inWork = &txtCS;
-    for (int row = 0; row < count; ++row)
-        rows[static_cast<std::size_t>(row)] = readRow(row);
+    for (std::size_t row = 0; row < count; ++row)
+        rows[row] = readRow(static_cast<int>(row));
     m_inWork = &txtSDC;
-    addRows({rows.data(), static_cast<std::size_t>(count)});
+    totals = summary::addRows(totals, {rows.data(), count});
 
-    setText(txtTkm(Total), picture(TotKm, "#####.##"));
-    setText(txtTR(Total), picture(TotTR, "#####.##"));
-    setText(txtM(Total), picture(TotM, "#####.##"));
-    setText(txtS(Total), picture(TotS, "#####.##"));
-    setText(txtTMan(Total), picture(TotTMan, "#####.##"));
-    setText(txtCS(Total), picture(TotCS, "#####.##"));
-    setText(txtKey(Total), picture(TotKey, "#####"));
-    setText(txtLR(Total), picture(TotLR, "#####"));
-    setText(txtSS(Total), picture(TotSS, "#####"));
-    setText(txtSDC(Total), picture(TotSDC, "#####"));
-    setText(txtEx(Total), picture(TotEx, "#####"));
+    setText(txtTkm(Total), picture(totals.TotKm, "#####.##"));
+    setText(txtTR(Total), picture(totals.TotTR, "#####.##"));
+    setText(txtM(Total), picture(totals.TotM, "#####.##"));
+    setText(txtS(Total), picture(totals.TotS, "#####.##"));
+    setText(txtTMan(Total), picture(totals.TotTMan, "#####.##"));
+    setText(txtCS(Total), picture(totals.TotCS, "#####.##"));
+    setText(txtKey(Total), picture(totals.TotKey, "#####"));
+    setText(txtLR(Total), picture(totals.TotLR, "#####"));
+    setText(txtSS(Total), picture(totals.TotSS, "#####"));
+    setText(txtSDC(Total), picture(totals.TotSDC, "#####"));
+    setText(txtEx(Total), picture(totals.TotEx, "#####"));
 
     cmdPrint.setEnabled(true);
     focusDefault(cmdPrint);

@@ -42,31 +42,10 @@ public:
     double SrSEIndex = 0.0;      ///< of the Sr SE transferred last; its row is the index - 1
     std::int16_t MsgAnswer = 0;  ///< the answer to Compute's last message
 
-    // Row by row, as Compute or Grand Total has read or computed it.
-    std::array<double, Rows> RowKm{};
-    std::array<double, Rows> RowTR{};
-    std::array<double, Rows> RowM{};
-    std::array<double, Rows> RowS{};
-    std::array<double, Rows> RowTMan{};
-    std::array<double, Rows> RowKey{};
-    std::array<double, Rows> RowLR{};  ///< Compute takes the mates and keymen once more, Grand Total the leave reserve
-    std::array<float, Rows> RowCS{};
-    std::array<double, Rows> RowSS{};
-    std::array<double, Rows> RowSDC{};
-    std::array<double, Rows> RowEx{};
-
-    // Totals, for as long as the screen stays: every Grand Total adds to them.
-    double TotKm = 0.0;
-    double TotTR = 0.0;
-    double TotM = 0.0;
-    double TotS = 0.0;
-    double TotTMan = 0.0;
-    float TotCS = 0.0F;
-    double TotKey = 0.0;
-    double TotLR = 0.0;
-    double TotSS = 0.0;
-    std::int16_t TotSDC = 0;
-    double TotEx = 0.0;
+    /// As Compute or Grand Total has read or worked them out. For RowLR Compute takes the mates and keymen once more,
+    /// Grand Total the leave reserve.
+    std::array<summary::TableRow, Rows> rows;
+    summary::TableTotals totals;  ///< for as long as the screen stays: every Grand Total adds to them
 
     QWidget* firstBox() override;
 
@@ -93,8 +72,7 @@ private:
     int row() const;
     void nextSrSe();
     void lastSrSe();
-    summary::TableRow readRow(int row);
-    void addRows(std::span<const summary::TableRow> rows);
+    summary::TableRow readRow(int row) const;
 
     controls::RowSheet* m_table = nullptr;
     Column* m_inWork = &txtTR;  // the column in which a failing computation names its row

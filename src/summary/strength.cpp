@@ -13,20 +13,17 @@ using figures::requireFinite;
 using figures::toInt16;
 using figures::toSingle;
 
-Strength strengthOf(const SrSeFigures& srSe, int row)
+TableRow withStrength(TableRow row, int srSe)
 {
-    Strength result;
-    result.mandays = requireFinite(srSe.trMandays + srSe.mMandays + srSe.sMandays,
-                                   numbered("the total of mandays of Sr SE", row), row);
+    row.RowTMan = requireFinite(row.RowTR + row.RowM + row.RowS, numbered("the total of mandays of Sr SE", srSe), srSe);
 
-    const std::string what = numbered("the calculated strength of Sr SE", row);
-    const float men = toSingle(
-        (result.mandays + LeaveReserve * (result.mandays + srSe.matesAndKeymen)) / misc::MandaysPerMan, what, row);
-    result.calculated = toSingle(std::floor(men + RoundUpFromTenth), what, row);
+    const std::string what = numbered("the calculated strength of Sr SE", srSe);
+    const float men =
+        toSingle((row.RowTMan + LeaveReserve * (row.RowTMan + row.RowKey)) / misc::MandaysPerMan, what, srSe);
+    row.RowCS = std::floor(toSingle(men + RoundUpFromTenth, what, srSe));
 
-    result.excess = requireFinite((srSe.decasualisedPosts + srSe.sanctioned) - result.calculated,
-                                  numbered("the excess of Sr SE", row), row);
-    return result;
+    row.RowEx = requireFinite((row.RowSDC + row.RowSS) - row.RowCS, numbered("the excess of Sr SE", srSe), srSe);
+    return row;
 }
 
 TableTotals addRows(const TableTotals& totals, std::span<const TableRow> rows)
@@ -34,18 +31,17 @@ TableTotals addRows(const TableTotals& totals, std::span<const TableRow> rows)
     TableTotals sum = totals;
     for (int row = 0; const TableRow& entry : rows) {
         const std::string what = numbered("the column total at row", row);
-        sum.km = requireFinite(sum.km + entry.km, what, row);
-        sum.trMandays = requireFinite(sum.trMandays + entry.trMandays, what, row);
-        sum.mMandays = requireFinite(sum.mMandays + entry.mMandays, what, row);
-        sum.sMandays = requireFinite(sum.sMandays + entry.sMandays, what, row);
-        sum.mandays = requireFinite(sum.mandays + entry.mandays, what, row);
-        sum.calculated = toSingle(sum.calculated + entry.calculated, what, row);
-        sum.matesAndKeymen = requireFinite(sum.matesAndKeymen + entry.matesAndKeymen, what, row);
-        sum.leaveReserve = requireFinite(sum.leaveReserve + entry.leaveReserve, what, row);
-        sum.sanctioned = requireFinite(sum.sanctioned + entry.sanctioned, what, row);
-        sum.decasualisedPosts = toInt16(sum.decasualisedPosts + entry.decasualisedPosts,
-                                        numbered("the total of decasualised posts at row", row), row);
-        sum.excess = requireFinite(sum.excess + entry.excess, what, row);
+        sum.TotKm = requireFinite(sum.TotKm + entry.RowKm, what, row);
+        sum.TotTR = requireFinite(sum.TotTR + entry.RowTR, what, row);
+        sum.TotM = requireFinite(sum.TotM + entry.RowM, what, row);
+        sum.TotS = requireFinite(sum.TotS + entry.RowS, what, row);
+        sum.TotTMan = requireFinite(sum.TotTMan + entry.RowTMan, what, row);
+        sum.TotCS = toSingle(sum.TotCS + entry.RowCS, what, row);
+        sum.TotKey = requireFinite(sum.TotKey + entry.RowKey, what, row);
+        sum.TotLR = requireFinite(sum.TotLR + entry.RowLR, what, row);
+        sum.TotSS = requireFinite(sum.TotSS + entry.RowSS, what, row);
+        sum.TotSDC = toInt16(sum.TotSDC + entry.RowSDC, numbered("the total of decasualised posts at row", row), row);
+        sum.TotEx = requireFinite(sum.TotEx + entry.RowEx, what, row);
         ++row;
     }
     return sum;

@@ -34,7 +34,7 @@ class Summary(Screen):
     def compute(self, r):
         mandays = self.value(f"txtTR({r})") + self.value(f"txtM({r})") + self.value(f"txtS({r})")
         men = f32((mandays + 0.125 * (mandays + self.value(f"txtKey({r})"))) / MAN_YEAR)
-        strength = f32(math.floor(men + 0.9))
+        strength = f32(math.floor(f32(men + 0.9)))  # a single as well: 7.1 men are 8
         excess = (self.value(f"txtSDC({r})") + self.value(f"txtSS({r})")) - strength
         self[f"txtTMan({r})"] = picture(mandays, "#####.##")
         self[f"txtCS({r})"] = picture(strength, "####")

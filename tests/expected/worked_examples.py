@@ -212,6 +212,9 @@ def summary():
     # 294 x 15.1 = 4439.4 = 1.125 x 3946.133333; 294 x 15.05 = 4424.7 = 1.125 x 3933.066667; so for 15.09
     for mandays, strength in (("3946.133333", "16"), ("3946.14", "16"), ("3933.066667", "15"), ("3943.52", "15")):
         same(f"strength of {mandays} mandays", row(mandays, "", "", "")["txtCS(0)"], strength)
+    # (1854.8 + .125 x 1860.8) / 294 = 7.1; (1852.186667 + .125 x 1858.186667) / 294 = 2084.46 / 294 = 7.09
+    for mandays, strength in (("1854.8", "8"), ("1852.186667", "7")):
+        same(f"strength of {mandays} mandays, 6 keymen", row(mandays, "", "", "6")["txtCS(0)"], strength)
 
     same("at most 15 rows", Summary(Screen("frmStart", **{"txtT1(5)": "", "txtT1(2)": "", "txtT1(3)": "20"})).count, 15)
     table = Summary(work_out.frmStart("", 1, "2"))

@@ -299,9 +299,9 @@ std::vector<Invariants::Published> Invariants::publishedNow()
     if (m_chain.isLoaded<frmSummary>()) {
         const auto& summary = m_chain.get<frmSummary>();
         for (std::size_t row = 0; row < frmSummary::Rows; ++row)
-            all.push_back({Summary, QString("RowCS(%1)").arg(row), summary.RowCS[row]});
-        all.push_back({Summary, "TotTMan", summary.TotTMan});
-        all.push_back({Summary, "TotCS", summary.TotCS});
+            all.push_back({Summary, QString("RowCS(%1)").arg(row), summary.rows[row].RowCS});
+        all.push_back({Summary, "TotTMan", summary.totals.TotTMan});
+        all.push_back({Summary, "TotCS", summary.totals.TotCS});
     }
     return all;
 }

@@ -50,18 +50,18 @@ TEST_F(SummaryScreen, ComputeKeepsItsFiguresRowByRow)
     chain.get<frmT1>().txtTkm(1).setText("46.85");
     work("2", {"10000", "2000", "1000"}, {"10", "3", "40", "5"});
     transferAndComputeLast();
-    EXPECT_EQ(form.RowKm[1], 46.85);
-    EXPECT_EQ(form.RowTR[1], 10000.0);
-    EXPECT_EQ(form.RowM[1], 2000.0);
-    EXPECT_EQ(form.RowS[1], 1000.0);
-    EXPECT_EQ(form.RowTMan[1], 13000.0);
-    EXPECT_EQ(form.RowKey[1], 10.0);
-    EXPECT_EQ(form.RowLR[1], 10.0);  // the mates and keymen, not the leave reserve
-    EXPECT_EQ(form.RowCS[1], 50.0F);
-    EXPECT_EQ(form.RowSS[1], 40.0);
-    EXPECT_EQ(form.RowSDC[1], 5.0);
-    EXPECT_EQ(form.RowEx[1], -5.0);
-    EXPECT_EQ(form.RowTR[0], 0.0);
+    EXPECT_EQ(form.rows[1].RowKm, 46.85);
+    EXPECT_EQ(form.rows[1].RowTR, 10000.0);
+    EXPECT_EQ(form.rows[1].RowM, 2000.0);
+    EXPECT_EQ(form.rows[1].RowS, 1000.0);
+    EXPECT_EQ(form.rows[1].RowTMan, 13000.0);
+    EXPECT_EQ(form.rows[1].RowKey, 10.0);
+    EXPECT_EQ(form.rows[1].RowLR, 10.0);  // the mates and keymen, not the leave reserve
+    EXPECT_EQ(form.rows[1].RowCS, 50.0F);
+    EXPECT_EQ(form.rows[1].RowSS, 40.0);
+    EXPECT_EQ(form.rows[1].RowSDC, 5.0);
+    EXPECT_EQ(form.rows[1].RowEx, -5.0);
+    EXPECT_EQ(form.rows[0].RowTR, 0.0);
     EXPECT_EQ(form.MsgAnswer, 1);
 }
 
@@ -283,7 +283,7 @@ TEST_F(GrandTotal, DecasualisedPostsAreRoundedAtEveryStep)
     typeInto("txtSDC", 2, "0");
     click("cmdTotal");
     EXPECT_EQ(text("txtSDC(15)"), "2");
-    EXPECT_EQ(chain.get<frmSummary>().TotSDC, 2);
+    EXPECT_EQ(chain.get<frmSummary>().totals.TotSDC, 2);
 }
 
 TEST_F(GrandTotal, DecasualisedPostsBeyondSixteenBitsAreAnOverflow)

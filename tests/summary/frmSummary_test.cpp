@@ -4,6 +4,7 @@
 #include <QScrollBar>
 
 #include "summary/summary_screen.h"
+#include "support/lock_tip.h"
 
 namespace {
 
@@ -28,10 +29,8 @@ TEST_F(SummaryScreen, CaptionsStandToTheLetter)
     EXPECT_EQ(text("cmdTotal"), "&Grand Total");
     EXPECT_EQ(text("cmdPrint"), "&Print");
     EXPECT_EQ(text("cmdExit"), "&Exit");
-    const std::string lock =
-        "Please make sure that all data is corrctly entered. The data would get lockked after clicking this button.";
-    EXPECT_EQ(toolTip("cmdTransfer"), lock);
-    EXPECT_EQ(toolTip("cmdPrint"), lock);
+    EXPECT_EQ(toolTip("cmdTransfer"), LockTip);
+    EXPECT_EQ(toolTip("cmdPrint"), LockTip);
 }
 
 TEST_F(SummaryScreen, TakesTheDivisionFromTheStartScreen)
