@@ -30,10 +30,6 @@ frmT1::frmT1(flow::Chain& owner, const frmStart& start)
                     .columns = 13,
                     .opensCompute = false},
                    cmdCopy, cmdCompute),
-      optBG("optBG", "BG"),
-      optMG("optMG", "MG"),
-      optNG("optNG", "NG"),
-      chkSub("chkSub", "Subarban     Section"),
       m_start(start)
 {
     layOut();
@@ -225,13 +221,13 @@ void frmT1::cmdCompute_Click()
 // Results are shown row by row: the rows that pass are computed, also beside one that has to be revised.
 bool frmT1::computeRow(int i)
 {
-    const auto at = static_cast<std::size_t>(i);
-    SegNo[at] =
+    Segment& segment = segments[static_cast<std::size_t>(i)];
+    segment.SegNo =
         figures::strictSingle(txtSS(i).text().toStdString(), "the number of segment " + std::to_string(i + 1), i);
-    SegLine[at] = cboLn(i).text();
-    KmFrom[at] = valueOf(txtKmf(i));
-    KmTo[at] = valueOf(txtKmt(i));
-    const bool wrongWayRound = KmTo[at] < KmFrom[at];
+    segment.SegLine = cboLn(i).text();
+    segment.KmFrom = valueOf(txtKmf(i));
+    segment.KmTo = valueOf(txtKmt(i));
+    const bool wrongWayRound = segment.KmTo < segment.KmFrom;
     txtKmf(i).setRed(wrongWayRound);
     txtKmt(i).setRed(wrongWayRound);
     if (wrongWayRound) {
@@ -241,17 +237,17 @@ bool frmT1::computeRow(int i)
                                         "the button");
         return false;
     }
-    KmExtra[at] = valueOf(txtKm1(i));
-    LwrKm[at] = figures::toSingle(valueOf(txtLWR(i)), "the welded rail of segment " + std::to_string(i + 1), i);
-    Turnouts[at] = valueOf(txtTout(i));
+    segment.KmExtra = valueOf(txtKm1(i));
+    segment.LwrKm = figures::toSingle(valueOf(txtLWR(i)), "the welded rail of segment " + std::to_string(i + 1), i);
+    segment.Turnouts = valueOf(txtTout(i));
     const track::SegmentLength length = track::segmentLength(
-        {.kmFrom = KmFrom[at], .kmTo = KmTo[at], .kmExtra = KmExtra[at], .turnouts = Turnouts[at]}, i);
-    TotalKm[at] = length.totalKm;
-    controls::setText(txtTkm(i), picture(TotalKm[at], "####.##"));
-    EqLength[at] = length.eqLengthKm;
-    controls::setText(txtEqtkm(i), picture(EqLength[at], "####.##"));
+        {.kmFrom = segment.KmFrom, .kmTo = segment.KmTo, .kmExtra = segment.KmExtra, .turnouts = segment.Turnouts}, i);
+    segment.TotalKm = length.totalKm;
+    controls::setText(txtTkm(i), picture(segment.TotalKm, "####.##"));
+    segment.EqLength = length.eqLengthKm;
+    controls::setText(txtEqtkm(i), picture(segment.EqLength, "####.##"));
     // Not cleared at the start of a Compute: rows that passed before a failed one count again.
-    LwrTotal = track::addWeldedRail(LwrTotal, LwrKm[at], i);
+    LwrTotal = track::addWeldedRail(LwrTotal, segment.LwrKm, i);
     return true;
 }
 

@@ -15,51 +15,53 @@ public:
 
     frmT1(flow::Chain& chain, const frmStart& start);
 
+    // What later screens read.
     /// 0 section, 1 Sr SE, 2 jurisdiction, 3 gauge, 4 index. Read by every later screen.
     controls::ControlArray<controls::TextBox> txtT1{"txtT1", 5};
-    controls::TextBox txtNSeg{"txtNSeg"};  ///< read by frmT4
+    controls::TextBox txtNSeg{"txtNSeg"};                                         ///< read by frmT4
+    controls::EnterAsTab<QCheckBox> chkSub{"chkSub", "Subarban     Section"};     ///< read by frmT4, frmS2
+    controls::ControlArray<controls::TextBox> txtSS{"txtSS", MaxSegments};        ///< read by frmT2, frmT4
+    controls::ControlArray<controls::TextBox> txtGmt{"txtGmt", MaxSegments};      ///< read by frmT4
+    controls::ControlArray<controls::ComboBox> cboMtc{"cboMtc", MaxSegments};     ///< read by frmT4
+    controls::ControlArray<controls::TextBox> txtConc1{"txtConc1", MaxSegments};  ///< read by frmT4
+    controls::ControlArray<controls::TextBox> txtConc2{"txtConc2", MaxSegments};  ///< read by frmT4
+    controls::ControlArray<controls::TextBox> txtTout{"txtTout", MaxSegments};    ///< read by frmT4
+    controls::ControlArray<controls::TextBox> txtTkm{"txtTkm", MaxSegments};      ///< read by frmSummary
+    controls::ControlArray<controls::TextBox> txtEqtkm{"txtEqtkm", MaxSegments};  ///< read by frmT2, frmT4
+    int SegCount = 0;       ///< segments, 16 at most; read by frmT2, frmT4
+    float LwrTotal = 0.0F;  ///< long welded rail [km], a single; read by frmM1
 
-    // The segments. Read by frmT2 (txtSS, txtEqtkm), frmT4 (all but line, kilometres and welded rail) and the summary
-    // (txtTkm).
-    controls::ControlArray<controls::TextBox> txtSS{"txtSS", MaxSegments};
     controls::ControlArray<controls::ComboBox> cboLn{"cboLn", MaxSegments};
     controls::ControlArray<controls::TextBox> txtKmf{"txtKmf", MaxSegments};
     controls::ControlArray<controls::TextBox> txtKmt{"txtKmt", MaxSegments};
     controls::ControlArray<controls::TextBox> txtKm1{"txtKm1", MaxSegments};
-    controls::ControlArray<controls::TextBox> txtGmt{"txtGmt", MaxSegments};
     controls::ControlArray<controls::TextBox> txtLWR{"txtLWR", MaxSegments};
-    controls::ControlArray<controls::ComboBox> cboMtc{"cboMtc", MaxSegments};
-    controls::ControlArray<controls::TextBox> txtConc1{"txtConc1", MaxSegments};
-    controls::ControlArray<controls::TextBox> txtConc2{"txtConc2", MaxSegments};
-    controls::ControlArray<controls::TextBox> txtTout{"txtTout", MaxSegments};
-    controls::ControlArray<controls::TextBox> txtTkm{"txtTkm", MaxSegments};
-    controls::ControlArray<controls::TextBox> txtEqtkm{"txtEqtkm", MaxSegments};
 
-    controls::EnterAsTab<QRadioButton> optBG;
-    controls::EnterAsTab<QRadioButton> optMG;
-    controls::EnterAsTab<QRadioButton> optNG;
-    controls::EnterAsTab<QCheckBox> chkSub;  ///< read by frmT4 and frmS2
+    controls::EnterAsTab<QRadioButton> optBG{"optBG", "BG"};
+    controls::EnterAsTab<QRadioButton> optMG{"optMG", "MG"};
+    controls::EnterAsTab<QRadioButton> optNG{"optNG", "NG"};
 
     controls::Button cmdCopy{"cmdCopy", "&Data from a  File"};
     controls::Button cmdCompute{"cmdCompute", "&Compute"};
 
-    int SegCount = 0;       ///< segments, 16 at most; read by frmT2 and frmT4
-    float LwrTotal = 0.0F;  ///< long welded rail [km], a single; read by frmM1
     double SrSeIndexT1 = 0.0;
     QString SectionText;
     QString SrSeNameT1;
     QString DataFilePath;
 
-    // As computed, row by row.
-    std::array<float, MaxSegments + 1> SegNo{};
-    std::array<QString, MaxSegments + 1> SegLine{};
-    std::array<double, MaxSegments + 1> KmFrom{};    ///< [km]
-    std::array<double, MaxSegments + 1> KmTo{};      ///< [km]
-    std::array<double, MaxSegments + 1> KmExtra{};   ///< [km]
-    std::array<float, MaxSegments + 1> LwrKm{};      ///< [km]
-    std::array<double, MaxSegments + 1> Turnouts{};  ///< equivalent turnouts
-    std::array<double, MaxSegments + 1> TotalKm{};   ///< [km]
-    std::array<double, MaxSegments + 1> EqLength{};  ///< [km]
+    /// A segment as computed.
+    struct Segment {
+        float SegNo = 0.0F;
+        QString SegLine;
+        double KmFrom = 0.0;    ///< [km]
+        double KmTo = 0.0;      ///< [km]
+        double KmExtra = 0.0;   ///< [km]
+        float LwrKm = 0.0F;     ///< [km]
+        double Turnouts = 0.0;  ///< equivalent turnouts
+        double TotalKm = 0.0;   ///< [km]
+        double EqLength = 0.0;  ///< [km]
+    };
+    std::array<Segment, MaxSegments + 1> segments;
     std::int16_t ComputeError = 0;
     double SrSeIndexAtCompute = 0.0;
 

@@ -113,49 +113,50 @@ void frmT2::cmdCopy_Click()
     finishImport();
 }
 
-track::SegmentGround frmT2::readRow(int i)
+frmT2::Ground frmT2::readRow(int i) const
 {
-    const auto at = static_cast<std::size_t>(i);
-    Eqtkm[at] = valueOf(txtEqtkm(i));
-    Soil1[at] = valueOf(txtSoil1(i));
-    Cur1[at] = valueOf(txtCur1(i));
-    Tout1[at] =
-        toSingle(valueOf(txtTout1(i)), numbered("the number of turnouts on shrinkable formation of segment", i), i);
-    Soil2[at] = valueOf(txtSoil2(i));
-    Cur2[at] = valueOf(txtcur2(i));
-    Tout2[at] =
-        toSingle(valueOf(txtTout2(i)), numbered("the number of turnouts on unstable formation of segment", i), i);
-    Cur3[at] = toSingle(valueOf(txtCur3(i)), numbered("the \"Eq Deg\" curve of segment", i), i);
-    Rain[at] = toSingle(valueOf(txtRain(i)), numbered("the rainfall of segment", i), i);
-    return {.eqLengthKm = Eqtkm[at],
-            .shrinkableKm = Soil1[at],
-            .shrinkableTurnouts = Tout1[at],
-            .unstableKm = Soil2[at],
-            .unstableTurnouts = Tout2[at],
-            .curve1To2Deg = Cur1[at],
-            .curveOver2Deg = Cur2[at],
-            .curveEqDeg = Cur3[at],
-            .rainfallCm = Rain[at]};
+    const auto single = [i](const controls::TextBox& box, const char* name) {
+        return toSingle(valueOf(box), numbered(name, i), i);
+    };
+    return {.Eqtkm = valueOf(txtEqtkm(i)),
+            .Soil1 = valueOf(txtSoil1(i)),
+            .Tout1 = single(txtTout1(i), "the number of turnouts on shrinkable formation of segment"),
+            .Soil2 = valueOf(txtSoil2(i)),
+            .Tout2 = single(txtTout2(i), "the number of turnouts on unstable formation of segment"),
+            .Cur1 = valueOf(txtCur1(i)),
+            .Cur2 = valueOf(txtcur2(i)),
+            .Cur3 = single(txtCur3(i), "the \"Eq Deg\" curve of segment"),
+            .Rain = single(txtRain(i), "the rainfall of segment")};
 }
 
 void frmT2::cmdCompute_Click()
 {
-    std::vector<track::SegmentGround> grounds;
-    grounds.reserve(static_cast<std::size_t>(m_t1.SegCount));
-    for (int i = 0; i < m_t1.SegCount; ++i)
-        grounds.push_back(readRow(i));
-
-    const std::vector<track::Augmentation> augmentations = track::augmentations(grounds);
-
+    std::vector<track::SegmentGround> segments;
     for (int i = 0; i < m_t1.SegCount; ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        FacA[at] = augmentations[at].formation;
-        FacB[at] = augmentations[at].alignment;
-        FacC[at] = augmentations[at].rainfall;
-        setText(txtA(i), picture(FacA[at], "#.######"));
-        setText(txtB(i), picture(FacB[at], "#.######"));
-        setText(txtC(i), picture(FacC[at], "#.######"));
-        setText(txtABC(i), picture(augmentations[at].factor, "#.######"));
+        const Ground& read = grounds[static_cast<std::size_t>(i)] = readRow(i);
+        segments.push_back({.eqLengthKm = read.Eqtkm,
+                            .shrinkableKm = read.Soil1,
+                            .shrinkableTurnouts = read.Tout1,
+                            .unstableKm = read.Soil2,
+                            .unstableTurnouts = read.Tout2,
+                            .curve1To2Deg = read.Cur1,
+                            .curveOver2Deg = read.Cur2,
+                            .curveEqDeg = read.Cur3,
+                            .rainfallCm = read.Rain});
+    }
+
+    const std::vector<track::Augmentation> augmentations = track::augmentations(segments);
+
+    for (int i = 0; const track::Augmentation& augmentation : augmentations) {
+        Ground& ground = grounds[static_cast<std::size_t>(i)];
+        ground.FacA = augmentation.formation;
+        ground.FacB = augmentation.alignment;
+        ground.FacC = augmentation.rainfall;
+        setText(txtA(i), picture(ground.FacA, "#.######"));
+        setText(txtB(i), picture(ground.FacB, "#.######"));
+        setText(txtC(i), picture(ground.FacC, "#.######"));
+        setText(txtABC(i), picture(augmentation.factor, "#.######"));
+        ++i;
     }
     finishCompute();
 }

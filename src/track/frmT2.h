@@ -16,6 +16,10 @@ public:
 
     frmT2(flow::Chain& chain, const frmStart& start, const frmT1& t1);
 
+    // What later screens read.
+    /// The factor, six decimals; its text is read by frmT4.
+    controls::ControlArray<controls::TextBox> txtABC{"txtABC", Elements};
+
     /// 1 Sr SE, 4 index.
     controls::ControlArray<controls::TextBox> txtT1{"txtT1", {1, 4}};
 
@@ -32,25 +36,26 @@ public:
     controls::ControlArray<controls::TextBox> txtA{"txtA", Elements};
     controls::ControlArray<controls::TextBox> txtB{"txtB", Elements};
     controls::ControlArray<controls::TextBox> txtC{"txtC", Elements};
-    /// The factor, six decimals. Its text is read by frmT4.
-    controls::ControlArray<controls::TextBox> txtABC{"txtABC", Elements};
 
     controls::Button cmdCopy{"cmdCopy", "&Data from a File"};
     controls::Button cmdCompute{"cmdCompute", "&Compute"};
 
-    // As computed, segment by segment.
-    std::array<double, Elements> Eqtkm{};  ///< [km]
-    std::array<double, Elements> Soil1{};  ///< shrinkable [km]
-    std::array<float, Elements> Tout1{};   ///< turnouts on it
-    std::array<double, Elements> Soil2{};  ///< unstable [km]
-    std::array<float, Elements> Tout2{};   ///< turnouts on it
-    std::array<double, Elements> Cur1{};   ///< column "1-2 Deg" [km]
-    std::array<double, Elements> Cur2{};   ///< column ">2 Deg"
-    std::array<float, Elements> Cur3{};    ///< column "Eq Deg" [km]
-    std::array<float, Elements> Rain{};    ///< [cm a year]
-    std::array<double, Elements> FacA{};
-    std::array<double, Elements> FacB{};
-    std::array<double, Elements> FacC{};
+    /// A segment's ground as computed.
+    struct Ground {
+        double Eqtkm = 0.0;  ///< [km]
+        double Soil1 = 0.0;  ///< shrinkable [km]
+        float Tout1 = 0.0F;  ///< turnouts on it
+        double Soil2 = 0.0;  ///< unstable [km]
+        float Tout2 = 0.0F;  ///< turnouts on it
+        double Cur1 = 0.0;   ///< column "1-2 Deg" [km]
+        double Cur2 = 0.0;   ///< column ">2 Deg"
+        float Cur3 = 0.0F;   ///< column "Eq Deg" [km]
+        float Rain = 0.0F;   ///< [cm a year]
+        double FacA = 0.0;
+        double FacB = 0.0;
+        double FacC = 0.0;
+    };
+    std::array<Ground, Elements> grounds;
 
     QWidget* firstBox() override { return &txtSoil1(0); }
 
@@ -62,7 +67,7 @@ private:
 
     void layOut();
     controls::RowSheet* segmentRows();
-    track::SegmentGround readRow(int i);
+    Ground readRow(int i) const;
 
     const frmT1& m_t1;
 };

@@ -10,6 +10,22 @@ using controls::setText;
 using figures::numbered;
 using figures::picture;
 
+namespace {
+
+track::MainLineSegment read(const frmT4::Segment& segment)
+{
+    return {.eqLengthKm = segment.Eqtkm, .gmt = segment.Gmt, .factor = segment.Factor, .concreteKm = segment.ConcKm};
+}
+
+void keep(frmT4::Segment& segment, const track::MainLineMandays& mandays)
+{
+    segment.ManT = mandays.t;
+    segment.ManR = mandays.r;
+    segment.NgNorm = mandays.ngTPerKm;
+}
+
+}  // namespace
+
 frmT4::frmT4(flow::Chain& owner, const frmT1& t1, const frmT2& t2)
     : StepScreen(owner, "frmT4", "Calculations  of Mandays required for ' T ' and ' R ' activities of main line",
                  cmdCompute),
@@ -32,7 +48,7 @@ void frmT4::copyRow(int i, const frmT2& t2)
     txtSS(i).setText(m_t1.txtSS(i).text());
     txtEqtkm(i).setText(m_t1.txtEqtkm(i).text());
     txtGmt(i).setText(m_t1.txtGmt(i).text());
-    Method[static_cast<std::size_t>(i)] = m_t1.cboMtc(i).text();
+    segments[static_cast<std::size_t>(i)].Method = m_t1.cboMtc(i).text();
     txtTmc(i).setText(m_t1.cboMtc(i).text());
     txtConc1(i).setText(m_t1.txtConc1(i).text());
     txtConc2(i).setText(m_t1.txtConc2(i).text());
@@ -103,53 +119,39 @@ RowSheet* frmT4::segmentRows()
 
 void frmT4::readRow(int i)
 {
-    const auto at = static_cast<std::size_t>(i);
-    Eqtkm[at] = valueOf(txtEqtkm(i));
-    Conc1[at] = valueOf(txtConc1(i));
-    Conc2[at] = valueOf(txtConc2(i));
-    ConcKm[at] = track::concreteKm(Conc1[at], Conc2[at], i);
-    Gmt[at] = valueOf(txtGmt(i));
-    Factor[at] = figures::toSingle(valueOf(txtABC(i)), numbered("the augmentation factor of segment", i), i);
-}
-
-track::MainLineSegment frmT4::segment(int i) const
-{
-    const auto at = static_cast<std::size_t>(i);
-    return {.eqLengthKm = Eqtkm[at], .gmt = Gmt[at], .factor = Factor[at], .concreteKm = ConcKm[at]};
-}
-
-void frmT4::keep(int i, const track::MainLineMandays& mandays)
-{
-    ManT[static_cast<std::size_t>(i)] = mandays.t;
-    ManR[static_cast<std::size_t>(i)] = mandays.r;
+    Segment& segment = segments[static_cast<std::size_t>(i)];
+    segment.Eqtkm = valueOf(txtEqtkm(i));
+    segment.Conc1 = valueOf(txtConc1(i));
+    segment.Conc2 = valueOf(txtConc2(i));
+    segment.ConcKm = track::concreteKm(segment.Conc1, segment.Conc2, i);
+    segment.Gmt = valueOf(txtGmt(i));
+    segment.Factor = figures::toSingle(valueOf(txtABC(i)), numbered("the augmentation factor of segment", i), i);
 }
 
 void frmT4::Manpower_BG()
 {
-    for (int i = 0; i < m_t1.SegCount; ++i) {
+    for (int i = 0; Segment & segment : counted()) {
         const bool isSuburban = m_t1.chkSub.checkState() == Qt::Checked;
-        const track::Method method = track::methodOf(Method[static_cast<std::size_t>(i)].toStdString());
-        keep(i, track::bgMandays(segment(i), isSuburban, method, i));
+        const track::Method method = track::methodOf(segment.Method.toStdString());
+        keep(segment, track::bgMandays(read(segment), isSuburban, method, i));
+        ++i;
     }
 }
 
 void frmT4::manpowerMg()
 {
-    for (int i = 0; i < m_t1.SegCount; ++i)
-        keep(i, track::mgMandays(segment(i), i));
+    for (int i = 0; Segment & segment : counted())
+        keep(segment, track::mgMandays(read(segment), i++));
 }
 
 void frmT4::manpowerNg()
 {
-    for (int i = 0; i < m_t1.SegCount; ++i) {
-        NgNorm[static_cast<std::size_t>(i)] = track::ngTPerKm(Gmt[static_cast<std::size_t>(i)], i);
-        keep(i, track::ngMandays(segment(i), i));
-    }
+    for (int i = 0; Segment & segment : counted())
+        keep(segment, track::ngMandays(read(segment), i++));
 }
 
 void frmT4::cmdCompute_Click()
 {
-    const auto count = static_cast<std::size_t>(m_t1.SegCount);
     Gauge = m_t1.txtT1(3).text();
     for (int i = 0; i < m_t1.SegCount; ++i)
         readRow(i);
@@ -161,15 +163,18 @@ void frmT4::cmdCompute_Click()
         manpowerMg();
     if (Gauge == "NG")
         manpowerNg();
-    for (std::size_t at = 0; at < count; ++at)
-        ManTR[at] = track::trMandays({.t = ManT[at], .r = ManR[at]}, static_cast<int>(at));
-    TotMan = track::addTrMandays(TotMan, {ManTR.data(), count});
+    for (int i = 0; Segment & segment : counted())
+        segment.ManTR = track::trMandays({.t = segment.ManT, .r = segment.ManR}, i++);
+    float total = TotMan;
+    for (int i = 0; const Segment& segment : counted())
+        total = track::addTrMandays(total, segment.ManTR, i++);
+    TotMan = total;
 
-    for (int i = 0; i < m_t1.SegCount; ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        setText(txtMan1(i), picture(ManT[at], "####.##"));
-        setText(txtMan2(i), picture(ManR[at], "####.##"));
-        setText(txtMan3(i), picture(ManTR[at], "####.##"));
+    for (int i = 0; const Segment& segment : counted()) {
+        setText(txtMan1(i), picture(segment.ManT, "####.##"));
+        setText(txtMan2(i), picture(segment.ManR, "####.##"));
+        setText(txtMan3(i), picture(segment.ManTR, "####.##"));
+        ++i;
     }
     setText(txtMan3(Total), picture(TotMan, "######.##"));
     finishCompute();

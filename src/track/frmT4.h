@@ -1,6 +1,7 @@
 #pragma once
 #include <QCheckBox>
 #include <array>
+#include <span>
 
 #include "screens/controls/enter_as_tab.h"
 #include "screens/flow/data_screen.h"
@@ -18,6 +19,9 @@ public:
 
     frmT4(flow::Chain& chain, const frmT1& t1, const frmT2& t2);
 
+    // What later screens read.
+    controls::ControlArray<controls::TextBox> txtMan3{"txtMan3", Segments + 1};  ///< the total is read by frmSummary
+
     /// 0 section, 1 Sr SE, 2 jurisdiction, 3 gauge, 4 index.
     controls::ControlArray<controls::TextBox> txtT1{"txtT1", 5};
     controls::TextBox txtNSeg{"txtNSeg"};
@@ -33,8 +37,6 @@ public:
     controls::ControlArray<controls::TextBox> txtABC{"txtABC", Segments};
     controls::ControlArray<controls::TextBox> txtMan1{"txtMan1", Segments};
     controls::ControlArray<controls::TextBox> txtMan2{"txtMan2", Segments};
-    /// Element 16, the total, is read by the summary.
-    controls::ControlArray<controls::TextBox> txtMan3{"txtMan3", Segments + 1};
 
     controls::Button cmdCompute{"cmdCompute", "&Compute"};
 
@@ -42,20 +44,23 @@ public:
     /// suburban box as they stand. Throws RunTimeError (overflow, with the row).
     void Manpower_BG();
 
-    // As computed, segment by segment.
+    /// A segment as computed.
+    struct Segment {
+        QString Method;       ///< of maintenance, as taken from frmT1
+        double Eqtkm = 0.0;   ///< [km]
+        double Gmt = 0.0;     ///< traffic [gross million tonnes]
+        float Factor = 0.0F;  ///< augmentation 1+A+B+C
+        double Conc1 = 0.0;   ///< on concrete sleepers [km]
+        double Conc2 = 0.0;   ///< equivalent turnouts on them
+        double ConcKm = 0.0;  ///< both, turned into length [km]
+        float NgNorm = 0.0F;  ///< narrow gauge: 'T' [manday/km]
+        double ManT = 0.0;    ///< [manday/year]
+        double ManR = 0.0;    ///< [manday/year]
+        double ManTR = 0.0;   ///< [manday/year]
+    };
+    std::array<Segment, Segments + 1> segments;
     QString Gauge;
-    std::array<QString, Segments + 1> Method;   ///< of maintenance, as taken from frmT1
-    std::array<double, Segments + 1> Eqtkm{};   ///< [km]
-    std::array<double, Segments + 1> Gmt{};     ///< traffic [gross million tonnes]
-    std::array<float, Segments + 1> Factor{};   ///< augmentation 1+A+B+C
-    std::array<double, Segments + 1> Conc1{};   ///< on concrete sleepers [km]
-    std::array<double, Segments + 1> Conc2{};   ///< equivalent turnouts on them
-    std::array<double, Segments + 1> ConcKm{};  ///< both, turned into length [km]
-    std::array<float, Segments + 1> NgNorm{};   ///< narrow gauge: 'T' [manday/km]
-    std::array<double, Segments + 1> ManT{};    ///< [manday/year]
-    std::array<double, Segments + 1> ManR{};    ///< [manday/year]
-    std::array<double, Segments + 1> ManTR{};   ///< [manday/year]
-    float TotMan = 0.0F;                        ///< [manday/year], a single; every Compute adds to it
+    float TotMan = 0.0F;  ///< [manday/year], a single; every Compute adds to it
 
     QWidget* firstBox() override { return &cmdCompute; }
 
@@ -70,8 +75,8 @@ private:
     void readRow(int i);
     void manpowerMg();
     void manpowerNg();
-    track::MainLineSegment segment(int i) const;
-    void keep(int i, const track::MainLineMandays& mandays);
+    /// The segments of the Sr SE.
+    std::span<Segment> counted() { return {segments.data(), static_cast<std::size_t>(m_t1.SegCount)}; }
 
     const frmT1& m_t1;
 };

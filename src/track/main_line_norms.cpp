@@ -66,14 +66,15 @@ MainLineMandays mgMandays(const MainLineSegment& segment, int row)
 
 MainLineMandays ngMandays(const MainLineSegment& segment, int row)
 {
-    const float augmentedPerKm = segment.factor * ngTPerKm(segment.gmt, row);  // single: the norm's own step
+    const float perKm = ngTPerKm(segment.gmt, row);
+    const float augmentedPerKm = segment.factor * perKm;  // single: the norm's own step
     if (!std::isfinite(augmentedPerKm))
         throw figures::RunTimeError(figures::ErrorKind::FloatingPoint,
                                     numbered("the augmented 'T' rate is too large to compute with on segment", row),
                                     row);
     return {
         requireFinite(segment.eqLengthKm * augmentedPerKm, numbered("the number of 'T' mandays of segment", row), row),
-        rMandays(NarrowGauge, segment, row)};
+        rMandays(NarrowGauge, segment, row), perKm};
 }
 
 float ngTPerKm(double gmt, int row)
@@ -87,13 +88,9 @@ double trMandays(const MainLineMandays& mandays, int row)
     return requireFinite(mandays.t + mandays.r, numbered("the number of 'T'+'R' mandays of segment", row), row);
 }
 
-float addTrMandays(float total, std::span<const double> segmentTrMandays)
+float addTrMandays(float total, double segmentTrMandays, int row)
 {
-    for (int row = 0; const double mandays : segmentTrMandays) {
-        total = figures::toSingle(total + mandays, numbered("the total of 'T'+'R' mandays at segment", row), row);
-        ++row;
-    }
-    return total;
+    return figures::toSingle(total + segmentTrMandays, numbered("the total of 'T'+'R' mandays at segment", row), row);
 }
 
 }  // namespace track

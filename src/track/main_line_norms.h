@@ -1,6 +1,5 @@
 #pragma once
 #include <optional>
-#include <span>
 #include <string_view>
 
 namespace track {
@@ -41,6 +40,7 @@ struct MainLineSegment {
 struct MainLineMandays {
     double t = 0.0;
     double r = 0.0;
+    float ngTPerKm = 0.0F;  ///< narrow gauge: the 'T' rate that t comes from [manday/km]
 };
 
 // All throw RunTimeError (overflow, with the row: the segment counted from 0).
@@ -64,8 +64,8 @@ float ngTPerKm(double gmt, int row);
 /// 'T'+'R' of one segment [manday/year].
 double trMandays(const MainLineMandays& mandays, int row);
 
-/// `total` with the segments' 'T'+'R' added in order [manday/year]. Single precision: rounded after each segment,
-/// the division's summary reads that single.
-float addTrMandays(float total, std::span<const double> segmentTrMandays);
+/// `total` with one segment's 'T'+'R' added [manday/year]. Single precision: rounded after each segment, the division's
+/// summary reads that single.
+float addTrMandays(float total, double segmentTrMandays, int row);
 
 }  // namespace track

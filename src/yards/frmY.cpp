@@ -1,9 +1,12 @@
 #include "yards/frmY.h"
 
+#include <vector>
+
 #include "figures/conversions.h"
 #include "figures/picture.h"
 #include "start/frmStart.h"
 #include "track/frmT1.h"
+#include "yards/yard_norms.h"
 
 using controls::Caption;
 using controls::RowSheet;
@@ -110,52 +113,38 @@ void frmY::cmdYdata_Click()
     finishImport();
 }
 
-yards::YardLines frmY::readRow(int i)
+frmY::Yard frmY::readRow(int i) const
 {
-    const auto at = static_cast<std::size_t>(i);
-    Yd1[at] = valueOf(txtM1(i));
-    Yd2[at] = valueOf(txtM2(i));
-    Yd3[at] = valueOf(TXTM3(i));
-    Yd4[at] = valueOf(TXTM4(i));
-    Yd5[at] = valueOf(txtM5(i));
-    Yd6[at] = figures::toSingle(valueOf(txtM6(i)),
-                                figures::numbered("the number of turnouts on non-running lines of yard", i), i);
-    return {.machineKm = Yd1[at],
-            .manualKm = Yd2[at],
-            .nonRunningKm = Yd3[at],
-            .machineTurnouts = Yd4[at],
-            .manualTurnouts = Yd5[at],
-            .nonRunningTurnouts = Yd6[at]};
+    return {.Yd1 = valueOf(txtM1(i)),
+            .Yd2 = valueOf(txtM2(i)),
+            .Yd3 = valueOf(TXTM3(i)),
+            .Yd4 = valueOf(TXTM4(i)),
+            .Yd5 = valueOf(txtM5(i)),
+            .Yd6 = figures::toSingle(valueOf(txtM6(i)),
+                                     figures::numbered("the number of turnouts on non-running lines of yard", i), i)};
 }
 
 void frmY::cmdCOMPUTE_Click()
 {
-    std::array<yards::YardLines, MaxYards> entered;
-    for (int i = 0; i < NYd; ++i)
-        entered[static_cast<std::size_t>(i)] = readRow(i);
+    std::vector<yards::YardLines> entered;
+    for (int i = 0; i < NYd; ++i) {
+        const Yard& yard = yards[static_cast<std::size_t>(i)] = readRow(i);
+        entered.push_back({yard.Yd1, yard.Yd2, yard.Yd3, yard.Yd4, yard.Yd5, yard.Yd6});
+    }
 
     // The sums are not cleared: yards imported after a Compute are added to those before.
-    const yards::YardLines sums = yards::addYards({.machineKm = Sum1,
-                                                   .manualKm = Sum2,
-                                                   .nonRunningKm = Sum3,
-                                                   .machineTurnouts = Sum4,
-                                                   .manualTurnouts = Sum5,
-                                                   .nonRunningTurnouts = Sum6},
-                                                  {entered.data(), static_cast<std::size_t>(NYd)});
-    YdMan = yards::yardMandays(sums, txtT1(3).text().toStdString());
-    Sum1 = sums.machineKm;
-    Sum2 = sums.manualKm;
-    Sum3 = sums.nonRunningKm;
-    Sum4 = sums.machineTurnouts;
-    Sum5 = sums.manualTurnouts;
-    Sum6 = sums.nonRunningTurnouts;
+    const yards::YardLines lines =
+        yards::addYards({sums.Sum1, sums.Sum2, sums.Sum3, sums.Sum4, sums.Sum5, sums.Sum6}, entered);
+    YdMan = yards::yardMandays(lines, txtT1(3).text().toStdString());
+    sums = {lines.machineKm,       lines.manualKm,       lines.nonRunningKm,
+            lines.machineTurnouts, lines.manualTurnouts, lines.nonRunningTurnouts};
 
-    setText(txtM1(MaxYards), picture(Sum1, "####.##"));
-    setText(txtM2(MaxYards), picture(Sum2, "####.##"));
-    setText(TXTM3(MaxYards), picture(Sum3, "####.##"));
-    setText(TXTM4(MaxYards), picture(Sum4, "####.##"));
-    setText(txtM5(MaxYards), picture(Sum5, "####.##"));
-    setText(txtM6(MaxYards), picture(Sum6, "####.##"));
+    setText(txtM1(MaxYards), picture(sums.Sum1, "####.##"));
+    setText(txtM2(MaxYards), picture(sums.Sum2, "####.##"));
+    setText(TXTM3(MaxYards), picture(sums.Sum3, "####.##"));
+    setText(TXTM4(MaxYards), picture(sums.Sum4, "####.##"));
+    setText(txtM5(MaxYards), picture(sums.Sum5, "####.##"));
+    setText(txtM6(MaxYards), picture(sums.Sum6, "####.##"));
     m_rows->showTotal();  // also when no count was ever given
     setText(txtYd4, picture(YdMan, "#####.##"));
     txtNYd.setLocked(true);

@@ -2,7 +2,6 @@
 #include <array>
 
 #include "screens/flow/data_screen.h"
-#include "yards/yard_norms.h"
 
 class frmStart;
 class frmT1;
@@ -35,20 +34,26 @@ public:
 
     int NYd = 0;  ///< yards, 12 at most
 
-    // As computed, yard by yard: lines in km (1 machine packed, 2 manually packed, 3 non-running), turnouts on them.
-    std::array<double, MaxYards + 1> Yd1{};
-    std::array<double, MaxYards + 1> Yd2{};
-    std::array<double, MaxYards + 1> Yd3{};
-    std::array<double, MaxYards + 1> Yd4{};
-    std::array<double, MaxYards + 1> Yd5{};
-    std::array<float, MaxYards + 1> Yd6{};
-    // The columns' sums. A Compute adds to them.
-    double Sum1 = 0.0;
-    double Sum2 = 0.0;
-    double Sum3 = 0.0;
-    double Sum4 = 0.0;
-    double Sum5 = 0.0;
-    float Sum6 = 0.0F;
+    /// A yard as computed: lines in km (1 machine packed, 2 manually packed, 3 non-running), turnouts on them.
+    struct Yard {
+        double Yd1 = 0.0;
+        double Yd2 = 0.0;
+        double Yd3 = 0.0;
+        double Yd4 = 0.0;
+        double Yd5 = 0.0;
+        float Yd6 = 0.0F;
+    };
+    std::array<Yard, MaxYards + 1> yards;
+    /// The columns' sums. A Compute adds to them.
+    struct Sums {
+        double Sum1 = 0.0;
+        double Sum2 = 0.0;
+        double Sum3 = 0.0;
+        double Sum4 = 0.0;
+        double Sum5 = 0.0;
+        float Sum6 = 0.0F;
+    };
+    Sums sums;
     float YdMan = 0.0F;  ///< yard mandays of the Sr SE
 
     QWidget* firstBox() override { return &txtNYd; }
@@ -62,7 +67,7 @@ private:
 
     void layOut();
     controls::RowSheet* yardRows();
-    yards::YardLines readRow(int i);
+    Yard readRow(int i) const;
 
     controls::RowSheet* m_rows = nullptr;
 };

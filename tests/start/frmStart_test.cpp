@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QLabel>
 
+#include "support/lock_tip.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
 
@@ -83,8 +84,7 @@ TEST_F(StartScreen, StartsWithBlankFactsAndIndexOne)
 
 TEST_F(StartScreen, PrintAloneWarnsOfTheLock)
 {
-    EXPECT_EQ(toolTip("cmdPrint"), "Please make sure that all data is corrctly entered. The data would get lockked "
-                                   "after clicking this button.");
+    EXPECT_EQ(toolTip("cmdPrint"), LockTip);
     EXPECT_EQ(toolTip("cmdProceed"), "");
     EXPECT_EQ(toolTip("cmdFile"), "");
 }

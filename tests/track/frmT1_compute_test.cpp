@@ -1,5 +1,3 @@
-#include <vector>
-
 #include "track/track_screen.h"
 
 namespace {
@@ -90,18 +88,18 @@ TEST_F(TrackCompute, KeepsEveryRowForLaterScreens)
     type("txtLWR(0)", "0.1");
     chain.get<frmStart>().txtT1(4).setText("4");
     click("cmdCompute");
-    EXPECT_EQ(t1.SegNo[0], 1.0F);
-    EXPECT_EQ(t1.SegNo[1], 2.5F);
-    EXPECT_EQ(t1.SegLine[0].toStdString(), "UP");
-    EXPECT_EQ(t1.SegLine[1].toStdString(), "branch");
-    EXPECT_EQ(t1.KmFrom[0], 10.0);
-    EXPECT_EQ(t1.KmTo[1], 40.7);
-    EXPECT_EQ(t1.KmExtra[0], 1.5);
-    EXPECT_EQ(t1.LwrKm[0], 0.1F);
-    EXPECT_EQ(t1.Turnouts[0], 12.0);
-    EXPECT_EQ(t1.TotalKm[0], 16.5);          // 25 - 10 + 1.5
-    EXPECT_DOUBLE_EQ(t1.EqLength[0], 17.7);  // 12 x .1 + 16.5
-    EXPECT_DOUBLE_EQ(t1.TotalKm[1], 15.7);   // 40.7 - 25, not rounded
+    EXPECT_EQ(t1.segments[0].SegNo, 1.0F);
+    EXPECT_EQ(t1.segments[1].SegNo, 2.5F);
+    EXPECT_EQ(t1.segments[0].SegLine.toStdString(), "UP");
+    EXPECT_EQ(t1.segments[1].SegLine.toStdString(), "branch");
+    EXPECT_EQ(t1.segments[0].KmFrom, 10.0);
+    EXPECT_EQ(t1.segments[1].KmTo, 40.7);
+    EXPECT_EQ(t1.segments[0].KmExtra, 1.5);
+    EXPECT_EQ(t1.segments[0].LwrKm, 0.1F);
+    EXPECT_EQ(t1.segments[0].Turnouts, 12.0);
+    EXPECT_EQ(t1.segments[0].TotalKm, 16.5);          // 25 - 10 + 1.5
+    EXPECT_DOUBLE_EQ(t1.segments[0].EqLength, 17.7);  // 12 x .1 + 16.5
+    EXPECT_DOUBLE_EQ(t1.segments[1].TotalKm, 15.7);   // 40.7 - 25, not rounded
     EXPECT_EQ(t1.SrSeIndexAtCompute, 4.0) << "as it stands on the start screen at Compute";
     EXPECT_EQ(text("txtT1(4)"), "1") << "as it stood when this screen was loaded";
 }
@@ -115,7 +113,7 @@ TEST_F(TrackCompute, LeavesTheRowsBehindTheCountAlone)
     t1.txtLWR(1).setText("5");
     click("cmdCompute");
     EXPECT_EQ(t1.txtTkm(1).text(), "");
-    EXPECT_EQ(t1.TotalKm[1], 0.0);
+    EXPECT_EQ(t1.segments[1].TotalKm, 0.0);
     EXPECT_EQ(t1.LwrTotal, 0.0F);
 }
 
@@ -200,13 +198,13 @@ TEST_F(TrackCompute, ARowThatIsSkippedKeepsItsFormerFigures)
     expectRevise();
     expectRevise();
     click("cmdCompute");
-    EXPECT_EQ(t1.KmFrom[0], 30.0);
-    EXPECT_EQ(t1.KmTo[0], 20.0);
-    EXPECT_EQ(t1.KmExtra[0], 1.0);
-    EXPECT_EQ(t1.LwrKm[0], 3.0F);
-    EXPECT_EQ(t1.Turnouts[0], 10.0);
-    EXPECT_EQ(t1.TotalKm[0], 16.0);
-    EXPECT_EQ(t1.EqLength[0], 17.0);
+    EXPECT_EQ(t1.segments[0].KmFrom, 30.0);
+    EXPECT_EQ(t1.segments[0].KmTo, 20.0);
+    EXPECT_EQ(t1.segments[0].KmExtra, 1.0);
+    EXPECT_EQ(t1.segments[0].LwrKm, 3.0F);
+    EXPECT_EQ(t1.segments[0].Turnouts, 10.0);
+    EXPECT_EQ(t1.segments[0].TotalKm, 16.0);
+    EXPECT_EQ(t1.segments[0].EqLength, 17.0);
     EXPECT_EQ(text("txtTkm(0)"), "16.");
     EXPECT_EQ(text("txtEqtkm(0)"), "17.");
     EXPECT_EQ(t1.LwrTotal, 3.0F) << "its rail is not added";
@@ -263,7 +261,7 @@ TEST_F(TrackCompute, ASegmentNumberThatIsNoneEndsTheComputeAtItsRow)
         click("cmdCompute");
         EXPECT_EQ(dialogs.open(), 0U) << number;
         EXPECT_EQ(texts("txtTkm", 0, 2), "15.||") << "rows are computed and shown one by one";
-        EXPECT_EQ(t1.KmFrom[1] + t1.KmTo[1], 0.0) << "the number is read before the limits";
+        EXPECT_EQ(t1.segments[1].KmFrom + t1.segments[1].KmTo, 0.0) << "the number is read before the limits";
         expectStillToCompute();
         EXPECT_EQ(focus(), "txtSS(1)");
     }

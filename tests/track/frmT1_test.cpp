@@ -4,6 +4,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include "support/lock_tip.h"
 #include "track/track_screen.h"
 
 namespace {
@@ -33,10 +34,8 @@ TEST_F(TrackScreen, CaptionsStandToTheLetter)
 TEST_F(TrackScreen, ToolTipsStandToTheLetterWithTheirQuotes)
 {
     open();
-    const std::string lock =
-        "Please make sure that all data is corrctly entered. The data would get lockked after clicking this button.";
-    EXPECT_EQ(toolTip("cmdNext"), lock);
-    EXPECT_EQ(toolTip("cmdPrint"), lock);
+    EXPECT_EQ(toolTip("cmdNext"), LockTip);
+    EXPECT_EQ(toolTip("cmdPrint"), LockTip);
     EXPECT_EQ(toolTip("cmdCompute"), "");
     EXPECT_EQ(toolTip("txtNSeg"), "Maximum number of segments is 16");
     EXPECT_EQ(toolTip("optBG"), "");

@@ -74,10 +74,10 @@ TEST_F(GroundScreen, RainfallIsComparedAsASingle)
     typeRow(1, {"", "", "", "", "", "", "", "149.999999"});  // as a single 150
     click("cmdCompute");
 
-    EXPECT_EQ(form.Rain[0], 300.0F);
-    EXPECT_EQ(form.FacC[0], 0.2);
-    EXPECT_EQ(form.Rain[1], 150.0F);
-    EXPECT_EQ(form.FacC[1], 0.0);
+    EXPECT_EQ(form.grounds[0].Rain, 300.0F);
+    EXPECT_EQ(form.grounds[0].FacC, 0.2);
+    EXPECT_EQ(form.grounds[1].Rain, 150.0F);
+    EXPECT_EQ(form.grounds[1].FacC, 0.0);
 }
 
 TEST_F(GroundScreen, KeepsWhatItComputedUnrounded)
@@ -86,18 +86,18 @@ TEST_F(GroundScreen, KeepsWhatItComputedUnrounded)
     typeRow(0, {"1", "2", "4", "5", "6", "7", "8", "225"});
     click("cmdCompute");
 
-    EXPECT_EQ(form.Eqtkm[0], 3.0);
-    EXPECT_EQ(form.Soil1[0], 1.0);
-    EXPECT_EQ(form.Tout1[0], 2.0F);
-    EXPECT_EQ(form.Soil2[0], 4.0);
-    EXPECT_EQ(form.Tout2[0], 5.0F);
-    EXPECT_EQ(form.Cur1[0], 6.0);
-    EXPECT_EQ(form.Cur2[0], 7.0);
-    EXPECT_EQ(form.Cur3[0], 8.0F);
-    EXPECT_EQ(form.Rain[0], 225.0F);
-    EXPECT_DOUBLE_EQ(form.FacA[0], 0.69 / 3);  // (.2 x 1.2 + .1 x 4.5) / 3
-    EXPECT_DOUBLE_EQ(form.FacB[0], 11.0 / 3);  // (.25 x 6 x 6 + .25 x 8) / 3
-    EXPECT_DOUBLE_EQ(form.FacC[0], 0.1);       // .2 x 75 / 150
+    EXPECT_EQ(form.grounds[0].Eqtkm, 3.0);
+    EXPECT_EQ(form.grounds[0].Soil1, 1.0);
+    EXPECT_EQ(form.grounds[0].Tout1, 2.0F);
+    EXPECT_EQ(form.grounds[0].Soil2, 4.0);
+    EXPECT_EQ(form.grounds[0].Tout2, 5.0F);
+    EXPECT_EQ(form.grounds[0].Cur1, 6.0);
+    EXPECT_EQ(form.grounds[0].Cur2, 7.0);
+    EXPECT_EQ(form.grounds[0].Cur3, 8.0F);
+    EXPECT_EQ(form.grounds[0].Rain, 225.0F);
+    EXPECT_DOUBLE_EQ(form.grounds[0].FacA, 0.69 / 3);  // (.2 x 1.2 + .1 x 4.5) / 3
+    EXPECT_DOUBLE_EQ(form.grounds[0].FacB, 11.0 / 3);  // (.25 x 6 x 6 + .25 x 8) / 3
+    EXPECT_DOUBLE_EQ(form.grounds[0].FacC, 0.1);       // .2 x 75 / 150
     EXPECT_EQ(factors(0), ".23|3.666667|.1|4.996667");
 }
 

@@ -1,13 +1,12 @@
 #include <QTemporaryDir>
 
 #include "start/frmStart.h"
+#include "support/lock_tip.h"
 #include "track/frmT4.h"
 #include "track/ground_screen.h"
 
 namespace {
 
-const std::string LockTip =
-    "Please make sure that all data is corrctly entered. The data would get lockked after clicking this button.";
 const std::string Title = "Entering Data on Formation , Rainfall and Curves";
 
 // What the screen shows

@@ -102,16 +102,16 @@ TEST_F(MandaysScreen, KeepsWhatItComputedUnrounded)
     click("cmdCompute");
 
     EXPECT_EQ(form.Gauge, "NG");
-    EXPECT_EQ(form.Eqtkm[0], 3.0);
-    EXPECT_EQ(form.Gmt[0], 0.3);
-    EXPECT_EQ(form.Factor[0], 1.05F);
-    EXPECT_EQ(form.Conc1[0], 4.0);
-    EXPECT_EQ(form.Conc2[0], 12.0);
-    EXPECT_DOUBLE_EQ(form.ConcKm[0], 5.2);  // 4 + .1 x 12
-    EXPECT_EQ(form.NgNorm[0], 161.4F);
-    EXPECT_EQ(form.ManR[0], 273.0);  // 91 x 3
-    EXPECT_EQ(form.ManTR[0], form.ManT[0] + 273.0);
-    EXPECT_NEAR(form.ManT[0], 508.41, 1e-4);  // 161.4 x 1.05 x 3
+    EXPECT_EQ(form.segments[0].Eqtkm, 3.0);
+    EXPECT_EQ(form.segments[0].Gmt, 0.3);
+    EXPECT_EQ(form.segments[0].Factor, 1.05F);
+    EXPECT_EQ(form.segments[0].Conc1, 4.0);
+    EXPECT_EQ(form.segments[0].Conc2, 12.0);
+    EXPECT_DOUBLE_EQ(form.segments[0].ConcKm, 5.2);  // 4 + .1 x 12
+    EXPECT_EQ(form.segments[0].NgNorm, 161.4F);
+    EXPECT_EQ(form.segments[0].ManR, 273.0);  // 91 x 3
+    EXPECT_EQ(form.segments[0].ManTR, form.segments[0].ManT + 273.0);
+    EXPECT_NEAR(form.segments[0].ManT, 508.41, 1e-4);  // 161.4 x 1.05 x 3
 }
 
 // The total

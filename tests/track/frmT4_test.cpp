@@ -1,11 +1,10 @@
 #include <QTemporaryDir>
 
+#include "support/lock_tip.h"
 #include "track/mandays_screen.h"
 
 namespace {
 
-const std::string LockTip =
-    "Please make sure that all data is corrctly entered. The data would get lockked after clicking this button.";
 const std::string Title = "Calculations  of Mandays required for ' T ' and ' R ' activities of main line";
 
 // What the screen shows
@@ -67,7 +66,7 @@ TEST_F(MandaysScreen, TakesTheSegmentsFromTheScreensBefore)
     EXPECT_EQ(texts("txtEqtkm", 0, 3), "10.5|17.7|9|");
     EXPECT_EQ(texts("txtGmt", 0, 3), "|42.6||");
     EXPECT_EQ(texts("txtTmc", 0, 3), "Machine Packed|Manually Packed|Machine Packed|");
-    EXPECT_EQ(form.Method[1], "Manually Packed");
+    EXPECT_EQ(form.segments[1].Method, "Manually Packed");
     EXPECT_EQ(texts("txtConc1", 0, 3), "|35.6||");
     EXPECT_EQ(texts("txtConc2", 0, 3), "|14||");
     EXPECT_EQ(texts("txtTout", 0, 3), "|19||");
@@ -170,7 +169,7 @@ TEST_F(MandaysScreen, AGreyedSuburbanBoxIsNotATickedOne)
     chain.get<frmT1>().chkSub.setCheckState(Qt::PartiallyChecked);
     click("cmdCompute");
     EXPECT_EQ(mandays(0), "566.5|795.|1361.5");
-    EXPECT_EQ(form.Method[0], "Machine Packed");
+    EXPECT_EQ(form.segments[0].Method, "Machine Packed");
 }
 
 TEST_F(MandaysScreen, TheMethodIsTheOneTakenWhenTheScreenCame)
@@ -185,19 +184,19 @@ TEST_F(MandaysScreen, ManpowerBgWorksOutBroadGaugeByItself)
 {
     auto& form = open("MG", {{"5", "10", "1.1"}, {"10", "0", "1."}});
     click("cmdCompute");
-    EXPECT_EQ(form.ManR[0], 640.0);  // 128 x 5
+    EXPECT_EQ(form.segments[0].ManR, 640.0);  // 128 x 5
 
     chain.get<frmT1>().chkSub.setChecked(true);
     form.Manpower_BG();
-    EXPECT_EQ(form.ManR[0], 1990.0);          // 398 x 5
-    EXPECT_EQ(form.ManR[1], 3980.0);          // 398 x 10
-    EXPECT_EQ(form.ManT[1], 1150.0);          // 115 x 10
-    EXPECT_EQ(text("txtMan2(0)"), "640.");    // Compute alone shows
-    chain.get<frmT1>().txtNSeg.setText("1");  // and it goes by the track screen's count
+    EXPECT_EQ(form.segments[0].ManR, 1990.0);  // 398 x 5
+    EXPECT_EQ(form.segments[1].ManR, 3980.0);  // 398 x 10
+    EXPECT_EQ(form.segments[1].ManT, 1150.0);  // 115 x 10
+    EXPECT_EQ(text("txtMan2(0)"), "640.");     // Compute alone shows
+    chain.get<frmT1>().txtNSeg.setText("1");   // and it goes by the track screen's count
     chain.get<frmT1>().chkSub.setChecked(false);
     form.Manpower_BG();
-    EXPECT_EQ(form.ManR[0], 795.0);  // 159 x 5
-    EXPECT_EQ(form.ManR[1], 3980.0);
+    EXPECT_EQ(form.segments[0].ManR, 795.0);  // 159 x 5
+    EXPECT_EQ(form.segments[1].ManR, 3980.0);
 }
 
 // Errors

@@ -73,8 +73,8 @@ TEST_F(YardScreen, TurnoutsOnNonRunningLinesAreSummedAsSingles)
     click("cmdCOMPUTE");
 
     EXPECT_EQ(totals(), "16777218.|.|.|.|16777218.|16777216.");
-    EXPECT_EQ(form.Sum6, 16777216.0F);
-    EXPECT_EQ(form.Sum5, 16777218.0);
+    EXPECT_EQ(form.sums.Sum6, 16777216.0F);
+    EXPECT_EQ(form.sums.Sum5, 16777218.0);
 }
 
 TEST_F(YardScreen, ComputeOpensNextAndPrintAndClosesItself)

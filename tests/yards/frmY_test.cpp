@@ -1,10 +1,9 @@
 #include "activities/misc/frmM1.h"
+#include "support/lock_tip.h"
 #include "yards/yard_screen.h"
 
 namespace {
 
-const std::string LockTip =
-    "Please make sure that all data is corrctly entered. The data would get lockked after clicking this button.";
 const std::string Title = "Entering Yard Data";
 
 const char* const SubHeading =

@@ -14,6 +14,9 @@ public:
 
     frmM1(flow::Chain& chain, const frmStart& start, const frmT1& t1);
 
+    // What later screens read.
+    float TotalMandays = 0.0F;  ///< M.1 to M.4, a single; read by frmM2
+
     /// 0 section, 1 Sr SE, 2 jurisdiction.
     controls::ControlArray<controls::TextBox> txtT1{"txtT1", 3};
 
@@ -41,8 +44,6 @@ public:
 
     controls::Button cmdData{"cmdData", "&Data from File"};
     controls::Button cmdCompute{"cmdCompute", "&Compute"};
-
-    float TotalMandays = 0.0F;  ///< M.1 to M.4, a single; read by frmM2
 
     QWidget* firstBox() override { return &txtNB; }
 

@@ -14,6 +14,9 @@ public:
 
     frmM2(flow::Chain& chain, const frmStart& start, const frmT1& t1, const frmM1& m1);
 
+    // What later screens read.
+    controls::TextBox txtMan9{"txtMan9"};  ///< all of 'M'; read by frmSummary
+
     /// 0 section, 1 Sr SE, 2 jurisdiction.
     controls::ControlArray<controls::TextBox> txtT1{"txtT1", 3};
 
@@ -31,8 +34,6 @@ public:
 
     controls::TextBox txtSL{"txtSL"};
     controls::TextBox txtMan8{"txtMan8"};
-
-    controls::TextBox txtMan9{"txtMan9"};  ///< all of 'M'; its text is read by the summary
 
     controls::Button cmdData{"cmdData", "&Data from File"};
     controls::Button cmdCompute{"cmdCompute", "&Compute"};

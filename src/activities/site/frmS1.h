@@ -17,6 +17,10 @@ public:
 
     frmS1(flow::Chain& chain, const frmStart& start, const frmT1& t1);
 
+    // What later screens read.
+    /// S.1 to S.4 as computed, 0 until then, S.5 to S.10 0; read by frmS2.
+    site::SiteMandays mandays;
+
     /// 0 section, 1 Sr SE, 2 jurisdiction.
     controls::ControlArray<controls::TextBox> txtT1{"txtT1", 3};
 
@@ -32,9 +36,6 @@ public:
 
     controls::Button cmdData{"cmdData", "&Data from File"};
     controls::Button cmdCompute{"cmdCompute", "&Compute"};
-
-    /// S.1 to S.4 as computed, 0 until then, S.5 to S.10 0. Read by frmS2.
-    site::SiteMandays mandays;
 
     QWidget* firstBox() override { return &txtND(0); }
 

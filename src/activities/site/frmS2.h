@@ -15,6 +15,12 @@ public:
 
     frmS2(flow::Chain& chain, const frmStart& start, const frmT1& t1, const frmS1& s1);
 
+    // What later screens read.
+    controls::TextBox txtMan20{"txtMan20"};  ///< all of 'S'; read by frmSummary
+    /// The data file's table. frmSummary reads row 2: column 18 mates and keymen, 19 leave reserve, 20 sanctioned
+    /// strength, 21 decasualised posts.
+    const controls::DataGrid& GridS2 = grid;
+
     /// 0 section, 1 Sr SE, 2 jurisdiction.
     controls::ControlArray<controls::TextBox> txtT1{"txtT1", 3};
 
@@ -40,17 +46,12 @@ public:
     controls::TextBox txtMan17{"txtMan17"};  ///< S.8
     controls::TextBox txtMan18{"txtMan18"};  ///< S.9
     controls::TextBox txtMan19{"txtMan19"};  ///< S.10
-    controls::TextBox txtMan20{"txtMan20"};  ///< all of 'S'; read by the summary
 
     controls::Button cmdData{"cmdData", "&Data from File"};
     controls::Button cmdCompute{"cmdCompute", "&Compute"};
 
     /// S.1 to S.10 [manday/year], a single; 0 until computed.
     float TotalMandays = 0.0F;
-
-    /// The data file's table. The summary reads row 2: column 18 mates and keymen, 19 leave reserve, 20 sanctioned
-    /// strength, 21 decasualised posts.
-    const controls::DataGrid& GridS2 = grid;
 
     QWidget* firstBox() override { return &txtTB1; }
 

@@ -1,10 +1,9 @@
 #include "activities/misc/frmM2.h"
 #include "activities/misc/patrolling_screen.h"
+#include "support/lock_tip.h"
 
 namespace {
 
-const std::string LockTip =
-    "Please make sure that all data is corrctly entered. The data would get lockked after clicking this button.";
 const std::string Title = "Data Entry for - For Miscelleneous Activities";
 
 // What the screen shows

@@ -1,11 +1,10 @@
 #include "activities/misc/gate_screen.h"
 #include "activities/site/frmS1.h"
+#include "support/lock_tip.h"
 #include "track/frmT1.h"
 
 namespace {
 
-const std::string LockTip =
-    "Please make sure that all data is corrctly entered. The data would get lockked after clicking this button.";
 const std::string Title = "Data Entry for Miscelleneous Activities  (continued).....";
 
 // What the screen shows

@@ -6,15 +6,13 @@
 #include "activities/site/frmS1.h"
 #include "activities/site/frmS2.h"
 #include "start/frmStart.h"
+#include "support/lock_tip.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
 
 /// frmS1 and frmS2 as Next shows them.
 class SiteScreen : public ScreenTest {
 protected:
-    static constexpr const char* LockTip =
-        "Please make sure that all data is corrctly entered. The data would get lockked after clicking this button.";
-
     /// Under an Sr SE of this name, with the data file at `path`.
     template <class Form>
     Form& open(const std::string& path = "")

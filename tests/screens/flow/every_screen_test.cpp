@@ -2,12 +2,10 @@
 #include <QTest>
 
 #include "screens/flow/data_screen.h"
+#include "support/lock_tip.h"
 #include "support/screen_test.h"
 
 namespace {
-
-const std::string LockTip =
-    "Please make sure that all data is corrctly entered. The data would get lockked after clicking this button.";
 
 /// What all ten screens have in common, on each of them.
 class EveryScreen : public ScreenTest {  // slow
