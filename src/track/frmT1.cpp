@@ -34,6 +34,7 @@ frmT1::frmT1(flow::Chain& owner, const frmStart& start)
 {
     layOut();
     addSource(start.txtT1(1).text());
+    openCount();
     cmdCopy.setEnabled(false);
     setHint("Choose the gauge: it opens the import.");
     takeSrSe();
@@ -58,8 +59,10 @@ void frmT1::takeSrSe()
 void frmT1::onShownAgain()
 {
     ImportScreen::onShownAgain();
-    if (!cmdNext.isEnabled())
-        takeSrSe();
+    if (cmdNext.isEnabled())
+        return;
+    takeSrSe();
+    openCount();
 }
 
 void frmT1::layOut()
@@ -84,7 +87,7 @@ void frmT1::layOut()
     chkSub.setToolTip("\"For Subarban Sections the Maintenance has to be Mechanical\"");
     suburban.setToolTip(chkSub.toolTip());
     txtNSeg.setToolTip("Maximum number of segments is 16");
-    txtNSeg.setNumeric();
+    txtNSeg.setLimit(MaxSegments);
     for (const int taken : {1, 3, 4})
         txtT1(taken).setLocked(true);
     txtNSeg.setLocked(true);
@@ -138,6 +141,7 @@ void frmT1::txtNSeg_Change()
         else
             cboMtc(i).setLocked(false);
     cmdCompute.setEnabled(true);
+    setDefaultButton(&cmdCompute);
     openImport();
 }
 
@@ -182,10 +186,30 @@ void frmT1::chkSub_Click()
     optBG_Click();
 }
 
+// Without a table no count can come from a file.
+void frmT1::openCount()
+{
+    if (grid.isHidden())
+        txtNSeg.setLocked(false);
+}
+
+// An import that brings a count locks the box; one that brings none opens it, and leaves a typed count alone.
+void frmT1::importCount()
+{
+    const bool computed = cmdNext.isEnabled();
+    const bool typed = computed || !txtNSeg.isLocked();
+    txtNSeg.setLocked(computed);
+    const QString count = cell(1, 2);
+    const bool brought = !count.trimmed().isEmpty();
+    if (brought || !typed)
+        txtNSeg.setText(brought ? count : "");
+    txtNSeg.setLocked(computed || brought);
+    SegCount = countOf(txtNSeg, MaxSegments);
+}
+
 void frmT1::cmdCopy_Click()
 {
-    txtNSeg.setText(cell(1, 2));
-    SegCount = countOf(txtNSeg, MaxSegments);
+    importCount();
     for (int i = 0; i < SegCount; ++i) {
         txtSS(i).setText(cell(i + 1, 3));
         cboLn(i).setText(cell(i + 1, 4));
@@ -200,6 +224,10 @@ void frmT1::cmdCopy_Click()
         cboMtc(i).setText(cell(i + 1, 13));
     }
     finishImport();
+    if (txtNSeg.text().trimmed().isEmpty()) {
+        setHint("Type the number of segments: the data file has none.");
+        revealBox(txtNSeg);
+    }
 }
 
 void frmT1::cmdCompute_Click()

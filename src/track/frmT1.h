@@ -85,6 +85,8 @@ private:
     controls::RowSheet* segmentRows();
     void packByHand(const QString& gauge);
     void openImport();
+    void openCount();
+    void importCount();
     void forceMethod(int i, const QString& method);
     bool computeRow(int i);
 
