@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QTest>
 
+#include "activities/site/frmS2.h"
 #include "screens/controls/data_grid.h"
 #include "screens/usability/ten_screens.h"
 #include "start/frmStart.h"

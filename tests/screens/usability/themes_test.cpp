@@ -11,6 +11,7 @@
 
 #include "screens/usability/ten_screens.h"
 #include "start/frmStart.h"
+#include "summary/frmSummary.h"
 
 namespace {
 
