@@ -28,7 +28,7 @@ constexpr int LongestStep = 20'000;  // [ms]
 
 QStringList warnings;
 
-// What the toolkit says of misuse names its function; what it says of this machine's fonts and windows does not.
+// What Qt says of misuse names its function; what it says of this machine's fonts and windows does not.
 void onMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
     if (type != QtDebugMsg && type != QtInfoMsg && text.contains(QRegularExpression("^Q\\w+::")))
@@ -81,7 +81,7 @@ bool step(Run& run, Tally& tally, bool log)
         return box.printOut == RandomDialogs::PrintOut::Lost;
     });
     for (const QString& warning : printerGaveOut ? QStringList() : warnings)
-        wrong.push_back("the toolkit warns: " + warning.toStdString());
+        wrong.push_back("Qt warns: " + warning.toStdString());
     for (const std::string& one : run.watch.after(run.hands.workedOn()))
         wrong.push_back(one);
 

@@ -1,7 +1,7 @@
-// The yardstick: one window of the toolkit with nothing in it, as large as a screen of Crewmark.
+// The yardstick: one Qt window with nothing in it, as large as a screen of Crewmark.
 //
 //   bare-window                 stands there, as Crewmark does
-//   bare-window --word          the same with one word in it, for which the toolkit must know its fonts
+//   bare-window --word          the same with one word in it, for which Qt must know its fonts
 //   bare-window --words         with the words of Crewmark's start screen in its three faces, and nothing else of it
 //   bare-window --memory        tells what it takes once it is painted, and ends
 //   bare-window --memory 10     the same with ten such windows

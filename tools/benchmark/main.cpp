@@ -163,7 +163,7 @@ void bench(const Effort& effort)
 
     Table table(samples);
     fill(table, samples);
-    std::printf("Median of %d rounds; spread: the least and the most of them; platform: %s\n\n", effort.rounds,
+    std::printf("Median of %d rounds; spread: their minimum and maximum; platform: %s\n\n", effort.rounds,
                 qPrintable(qEnvironmentVariable("QT_QPA_PLATFORM").section(':', 0, 0)));
     table.print();
     printScreens(samples);
@@ -175,7 +175,7 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen");
-    // Without a file that tells it otherwise, the offscreen desktop has 800 x 800 points.
+    // Without a file that tells it otherwise, the offscreen desktop has 800 x 800 pixels.
     qputenv("QT_QPA_PLATFORM", platform == "offscreen"
                                    ? QByteArray("offscreen:configfile=" CREWMARK_ROOT "/tools/benchmark/desktop.json")
                                    : platform.toUtf8());

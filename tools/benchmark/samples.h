@@ -15,7 +15,7 @@ public:
     void addDifference(const QString& figure, const QString& of, const QString& less);
 
     double median(const QString& figure) const { return quantile(figure, 0.5); }
-    /// Between the sorted values where need be; `part` is 0 for the least and 1 for the greatest. A figure that was
+    /// Between the sorted values where need be; `part` is 0 for the minimum and 1 for the maximum. A figure that was
     /// never measured is an error (std::runtime_error): no line of the table may be empty.
     double quantile(const QString& figure, double part) const;
 

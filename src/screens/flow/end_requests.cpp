@@ -89,7 +89,7 @@ void EndRequests::sessionEnds(QSessionManager& session)
 
 bool EndRequests::eventFilter(QObject* watched, QEvent* event)
 {
-    // The toolkit would close the screens one by one, and a No would come when all but one are gone.
+    // Qt would close the screens one by one, and a No would come when all but one are gone.
     if (watched != qApp || event->type() != QEvent::Quit)
         return QObject::eventFilter(watched, event);
     m_chain.mayEnd();

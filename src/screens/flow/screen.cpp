@@ -105,7 +105,7 @@ void Screen::addDate(QBoxLayout& line)
     controls::addField(line, "     Date (mm-dd-yyyy)", txtRly(2), DateCharacters).setObjectName("LblRly");
 }
 
-// By Tab one also comes from the buttons to what has scrolled away; the toolkit's areas look after their own alone.
+// By Tab one also comes from the buttons to what has scrolled away; Qt's areas look after their own alone.
 bool Screen::focusNextPrevChild(bool next)
 {
     const bool moved = QWidget::focusNextPrevChild(next);

@@ -55,7 +55,7 @@ TEST_F(OpenBox, ComputePressedOnceMoreCountsNothingTwice)
 
 TEST_F(OpenBox, APressByItsMnemonicThatComesLateIsDropped)
 {
-    // The toolkit presses a button a tenth of a second after Alt and its letter.
+    // Qt presses a button a tenth of a second after Alt and its letter.
     QTest::keyClick(t1, Qt::Key_C, Qt::AltModifier);
     whileItStands<QMessageBox>([&] {
         QTest::qWait(200);

@@ -1,4 +1,4 @@
-// What the screens say to people who listen: the toolkit's tree of names, roles and states, as the accessibility bus
+// What the screens say to screen readers: Qt's tree of names, roles and states, as the accessibility bus
 // passes it on.
 
 #include <QAbstractButton>

@@ -112,7 +112,7 @@ int roomForText(const QLineEdit& box)
     frame.initFrom(&box);
     frame.lineWidth = box.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, &box);
     const QMargins margins = box.textMargins();
-    constexpr int inner = 2 * 2;  // the toolkit's own margin on either side
+    constexpr int inner = 2 * 2;  // Qt's own margin on either side
     return box.style()->subElementRect(QStyle::SE_LineEditContents, &frame, &box).width() - margins.left() -
            margins.right() - inner;
 }
