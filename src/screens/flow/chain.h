@@ -75,7 +75,7 @@ public:
     bool mayEnd();
 
     Dialogs& dialogs() { return m_dialogs; }
-    const store::DataFile& dataFile() const { return m_dataFile; }
+    store::DataFile& dataFile() { return m_dataFile; }
 
 private:
     struct Link {

@@ -64,6 +64,10 @@ ImportScreen::ImportScreen(Chain& owner, const QString& name, const QString& cap
 void ImportScreen::addGrid(controls::Button& import)
 {
     m_import = &import;
+    connect(&import, &QAbstractButton::pressed, this, [this] {  // before the click that imports
+        if (m_isStale)
+            openSource(m_path);
+    });
     auto* place = new QWidget;
     auto* down = new QVBoxLayout(place);
     down->setContentsMargins(0, 0, 0, 0);
@@ -88,6 +92,8 @@ void ImportScreen::openSource(const QString& path)
 {
     m_path = path;
     m_reason.clear();
+    m_needsPermission = false;
+    m_isStale = false;
     grid.setTable(store::Table(m_tableName.toStdString(), {}));  // an import names what is missing
     if (path.trimmed().isEmpty()) {                              // the box starts with blanks
         m_remark = "No data file chosen";
@@ -98,6 +104,8 @@ void ImportScreen::openSource(const QString& path)
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     store::Reading reading = chain.dataFile().read(QFile::encodeName(path).toStdString(), m_tableName.toStdString());
     QGuiApplication::restoreOverrideCursor();
+    m_needsPermission = reading.needsPermission;
+    m_isStale = reading.isStale;
     m_reason = QString::fromStdString(reading.reason);
     m_remark = m_reason.isEmpty() ? QString::fromStdString(reading.notice) : m_reason;
     updateMessage();
@@ -124,6 +132,17 @@ void ImportScreen::updateMessage()
 
 void ImportScreen::onFirstShown()
 {
+    if (m_needsPermission) {
+        const bool isAllowed = chain.dialogs().askYesNo(*this, m_sourceCaption,
+                                                        "This system cannot confine the program that reads data files: "
+                                                        "a file made to do harm could do whatever you "
+                                                        "can do. Read data files all the same, until Crewmark ends?",
+                                                        false);
+        chain.dataFile().allowUnconfined(isAllowed);
+        if (!isAllowed)
+            return;
+        openSource(m_path);
+    }
     if (!m_reason.isEmpty())
         chain.dialogs().showCritical(*this, m_sourceCaption, m_reason);
 }

@@ -91,6 +91,8 @@ private:
     QString m_hint;
     QString m_importedFrom;
     const controls::Button* m_import = nullptr;
+    bool m_needsPermission = false;  // to read the file
+    bool m_isStale = false;          // the file was written to while it was read
     bool m_computeOpened = false;
 };
 
