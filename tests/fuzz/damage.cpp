@@ -12,6 +12,10 @@ using Random = std::mt19937_64;
 
 constexpr std::size_t PageSize = 4096;
 
+// The first byte of a page.
+constexpr char RecordPage = 1;
+constexpr char DefinitionPage = 2;
+
 // What stands where in a page of records and in a table's definition.
 constexpr std::size_t RecordsOfPage = 12;
 constexpr std::size_t RecordsOfTable = 16;
@@ -39,20 +43,38 @@ std::size_t number(const std::string& bytes, std::size_t at, std::size_t count)
     return value;
 }
 
-/// Where a page of this kind begins, as good as any page if there is none: 1 for records, 2 for a definition.
+/// Whether a table is defined on the page at `at` that the test's own files hold beside those of Access: the map of its
+/// pages is one of the second kind.
+bool isTable(const std::string& bytes, std::size_t at)
+{
+    if (at + PageSize > bytes.size() || bytes[at] != DefinitionPage)
+        return false;
+    const std::size_t page = number(bytes, at + MapOfTable + 1, 3) * PageSize;
+    const std::size_t slot = page + RecordsOfPage + 2 + 2 * number(bytes, at + MapOfTable, 1);
+    if (slot + 2 > bytes.size())
+        return false;
+    const std::size_t map = page + number(bytes, slot, 2) % PageSize;
+    return map < bytes.size() && bytes[map] == 1;
+}
+
+/// Where a page begins that defines such a table or holds records of it, if there is one.
 std::size_t pageOf(char kind, const std::string& bytes, Random& random)
 {
-    std::size_t page = below(random, bytes.size() / PageSize);
-    for (int tries = 0; tries < 200 && bytes[page * PageSize] != kind; ++tries)
-        page = below(random, bytes.size() / PageSize);
-    return page * PageSize;
+    std::size_t page = 0;
+    for (int tries = 0; tries < 1000; ++tries) {
+        page = below(random, bytes.size() / PageSize) * PageSize;
+        const std::size_t table = kind == DefinitionPage ? page : number(bytes, page + 4, 4) * PageSize;
+        if (bytes[page] == kind && isTable(bytes, table))
+            break;
+    }
+    return page;
 }
 
 /// A byte that tells where other bytes are, most likely: at the start of a page or in the definition of a table.
 std::size_t structuralPlace(Random& random, const std::string& bytes)
 {
     std::size_t page = below(random, bytes.size() / PageSize);
-    for (int tries = 0; tries < 20 && bytes[page * PageSize] != 2; ++tries)
+    for (int tries = 0; tries < 20 && bytes[page * PageSize] != DefinitionPage; ++tries)
         page = below(random, bytes.size() / PageSize);
     return page * PageSize + below(random, random() % 2 == 0 ? 64 : 1024);
 }
@@ -79,7 +101,7 @@ std::size_t slotOf(std::size_t page, const std::string& bytes, Random& random)
 /// The number of columns at its beginning, or what stands at its end: places, their number, the mask.
 std::size_t placeInsideRecord(const std::string& bytes, Random& random)
 {
-    const std::size_t page = pageOf(1, bytes, random);
+    const std::size_t page = pageOf(RecordPage, bytes, random);
     const std::size_t slot = slotOf(page, bytes, random);
     const bool isFirst = slot == page + RecordsOfPage + 2;
     const std::size_t begin = number(bytes, slot, 2) % PageSize;
@@ -93,13 +115,14 @@ std::size_t placeOfCount(const std::string& bytes, Random& random)
     constexpr std::array countsOfDefinition{RecordsOfTable, std::size_t{41}, std::size_t{43}, ColumnsOfTable,
                                             std::size_t{51}};
     if (random() % 3 == 0)
-        return pageOf(1, bytes, random) + RecordsOfPage + below(random, 2);
-    return pageOf(2, bytes, random) + countsOfDefinition[below(random, countsOfDefinition.size())] + below(random, 2);
+        return pageOf(RecordPage, bytes, random) + RecordsOfPage + below(random, 2);
+    return pageOf(DefinitionPage, bytes, random) + countsOfDefinition[below(random, countsOfDefinition.size())] +
+           below(random, 2);
 }
 
 std::size_t placeInDefinition(const std::string& bytes, Random& random)
 {
-    const std::size_t page = pageOf(2, bytes, random);
+    const std::size_t page = pageOf(DefinitionPage, bytes, random);
     const std::size_t columns = std::clamp<std::size_t>(number(bytes, page + ColumnsOfTable, 2), 1, 100);
     return page + FirstColumn + below(random, columns * ColumnSize);
 }
@@ -107,7 +130,7 @@ std::size_t placeInDefinition(const std::string& bytes, Random& random)
 /// Where the map is, in it, or on the page of bits that it names.
 std::size_t placeInMap(const std::string& bytes, Random& random)
 {
-    const std::size_t table = pageOf(2, bytes, random) + MapOfTable;
+    const std::size_t table = pageOf(DefinitionPage, bytes, random) + MapOfTable;
     const std::size_t page = number(bytes, table + 1, 3) * PageSize;
     const std::size_t slot = page + RecordsOfPage + 2 + 2 * number(bytes, table, 1);
     if (random() % 4 == 0 || slot + 2 > bytes.size())
@@ -122,7 +145,7 @@ std::size_t placeInMap(const std::string& bytes, Random& random)
 void forgetCounts(std::string& bytes)
 {
     for (std::size_t page = 0; page + PageSize <= bytes.size(); page += PageSize)
-        if (bytes[page] == 2)
+        if (bytes[page] == DefinitionPage)
             bytes.replace(page + RecordsOfTable, 4, 4, '\0');
 }
 
@@ -180,7 +203,7 @@ std::string damaged(std::string bytes, Damage damage, Random& random)
         bytes.resize(below(random, pages) * PageSize);
         break;
     case Damage::RecordPlace:
-        change(bytes.at(slotOf(pageOf(1, bytes, random), bytes, random) + below(random, 2)), random);
+        change(bytes.at(slotOf(pageOf(RecordPage, bytes, random), bytes, random) + below(random, 2)), random);
         break;
     case Damage::RecordInside:
         change(bytes.at(placeInsideRecord(bytes, random)), random);
