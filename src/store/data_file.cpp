@@ -76,12 +76,15 @@ Reading DataFile::read(const std::filesystem::path& path, const std::string& tab
     if (tableName.find('\0') != std::string::npos)
         return failedReading(Refusal::NoTable, asked);
     std::vector<std::string> arguments{m_reader.native(), path.native(), tableName};
-    if (m_mayReadUnconfined)
+    if (m_isUnconfinedAllowed.value_or(false))
         arguments.emplace_back(wire::Unconfined);
     try {
         const ReaderRun run = runReader(arguments, m_deadline);
-        return run.ending == ReaderRun::Ending::Finished ? parseReaderOutput(run.output, asked)
-                                                         : failedReading(refusalOf(run), asked);
+        if (run.ending != ReaderRun::Ending::Finished)
+            return failedReading(refusalOf(run), asked);
+        Reading reading = parseReaderOutput(run.output, asked);
+        reading.needsPermission = reading.needsPermission && !m_isUnconfinedAllowed;
+        return reading;
     } catch (const std::exception&) {  // out of memory: a table of this size is no Sr SE's
         return failedReading(Refusal::TooLarge, asked);
     }

@@ -1,6 +1,7 @@
 #pragma once
 #include <chrono>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "store/table.h"
@@ -14,8 +15,9 @@ struct Reading {
     Table table;
     std::string reason{};
     std::string notice{};
-    bool isStale = false;       ///< the file was written to while it was read; goes with an open table only
-    bool isUnconfined = false;  ///< nothing was read because the system cannot confine the reader; see allowUnconfined
+    bool isStale = false;          ///< the file was written to while it was read; goes with an open table only
+    bool needsPermission = false;  ///< nothing was read, as this system cannot confine the reader, and the user has not
+                                   ///< been asked: see allowUnconfined
 };
 
 /// The Sr SE data file. Never writes to it, never throws, never takes much longer than the deadline.
@@ -28,16 +30,16 @@ public:
     /// Reads the table `tableName` of the file at `path`.
     Reading read(const std::filesystem::path& path, const std::string& tableName) const;
 
-    /// From here on files are also read where the system cannot confine the reader: one that a file has taken over can
-    /// then do whatever the user can do. For the user alone to decide.
-    void allowUnconfined() { m_mayReadUnconfined = true; }
+    /// The user's answer whether to read where the system cannot confine the reader: a reader that a file has taken
+    /// over can do there whatever the user can do.
+    void allowUnconfined(bool isAllowed) { m_isUnconfinedAllowed = isAllowed; }
 
     static std::filesystem::path installedReader();
 
 private:
     std::filesystem::path m_reader;
     std::chrono::milliseconds m_deadline;
-    bool m_mayReadUnconfined = false;
+    std::optional<bool> m_isUnconfinedAllowed;  // none: not asked yet
 };
 
 }  // namespace store

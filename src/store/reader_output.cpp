@@ -154,7 +154,7 @@ Reading failedReading(Refusal refusal, const Asked& asked)
 {
     return {.table = Table(asked.table, {}),
             .reason = reasonFor(refusal, asked),
-            .isUnconfined = refusal == Refusal::Unconfined};
+            .needsPermission = refusal == Refusal::Unconfined};
 }
 
 Reading parseReaderOutput(std::string_view bytes, const Asked& asked)

@@ -27,6 +27,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include "fuzz/damage.h"
 #include "store/data_file.h"
 #include "store/files.h"
 #include "store/refusal.h"
@@ -109,89 +110,13 @@ std::size_t below(Random& random, std::size_t limit)
     return static_cast<std::size_t>(random() % limit);
 }
 
-/// A byte that tells where other bytes are, most likely: at the start of a page or in the definition of a table.
-std::size_t structuralPlace(Random& random, const std::string& bytes)
-{
-    std::size_t page = below(random, bytes.size() / PageSize);
-    for (int tries = 0; tries < 20 && bytes[page * PageSize] != 2; ++tries)
-        page = below(random, bytes.size() / PageSize);
-    return page * PageSize + below(random, random() % 2 == 0 ? 64 : 1024);
-}
-
-std::string& page(std::string& bytes, std::size_t at, const std::string& content)
-{
-    return bytes.replace(at * PageSize, PageSize, content);
-}
-
-enum class Damage { Bits, Bytes, Structure, Stretch, PagesSwapped, PageCopied, PageCleared, Cut, CutBetweenPages };
-
-constexpr std::array DamageNames{"bits flipped",        "bytes changed", "structure changed",
-                                 "stretch overwritten", "pages swapped", "page copied",
-                                 "page cleared",        "cut",           "cut between pages"};
-
-bool isCut(Damage damage)
-{
-    return damage == Damage::Cut || damage == Damage::CutBetweenPages;
-}
-
-char anyByte(Random& random)
-{
-    constexpr std::array usual{'\0', '\1', '\x7f', '\xff'};
-    return random() % 2 == 0 ? usual[below(random, usual.size())] : static_cast<char>(random());
-}
-
-std::string damaged(std::string bytes, Damage damage, Random& random)
-{
-    const std::size_t pages = bytes.size() / PageSize;
-    const std::size_t times = 1 + below(random, 8);
-    switch (damage) {
-    case Damage::Bits:
-        for (std::size_t i = 0; i < times; ++i)
-            bytes[below(random, bytes.size())] ^= static_cast<char>(1 << below(random, 8));
-        break;
-    case Damage::Bytes:
-        for (std::size_t i = 0; i < times; ++i)
-            bytes[below(random, bytes.size())] = anyByte(random);
-        break;
-    case Damage::Structure:
-        for (std::size_t i = 0; i < times; ++i)
-            bytes[structuralPlace(random, bytes)] = anyByte(random);
-        break;
-    case Damage::Stretch: {
-        const std::size_t begin = below(random, bytes.size());
-        const std::size_t end = std::min(bytes.size(), begin + 1 + below(random, 200));
-        const char byte = anyByte(random);
-        const bool isNoise = random() % 2 == 0;
-        for (std::size_t i = begin; i < end; ++i)
-            bytes[i] = isNoise ? static_cast<char>(random()) : byte;
-        break;
-    }
-    case Damage::PagesSwapped: {
-        const std::size_t one = below(random, pages);
-        const std::size_t other = below(random, pages);
-        const std::string content = bytes.substr(one * PageSize, PageSize);
-        page(bytes, one, bytes.substr(other * PageSize, PageSize));
-        page(bytes, other, content);
-        break;
-    }
-    case Damage::PageCopied:
-        page(bytes, below(random, pages), bytes.substr(below(random, pages) * PageSize, PageSize));
-        break;
-    case Damage::PageCleared:
-        page(bytes, below(random, pages), std::string(PageSize, anyByte(random)));
-        break;
-    case Damage::Cut:
-        bytes.resize(below(random, bytes.size()));
-        break;
-    case Damage::CutBetweenPages:
-        bytes.resize(below(random, pages) * PageSize);
-        break;
-    }
-    return bytes;
-}
-
 struct Counts {
     std::atomic<std::uint64_t> cut, opened, noticed, refused, died, stopped, faults;
+};
+
+/// Tables that are read from files damaged in one way, and those of them that show something else without a word.
+struct Silence {
+    std::atomic<std::uint64_t> tables, changed;
 };
 
 /// Reads the tables of one damaged file and counts what became of them.
@@ -219,7 +144,9 @@ public:
             const Clock::time_point start = Clock::now();
             const Reading reading = DataFile().read(file.path(), original.table);
             const bool isStuck = Clock::now() - start > Deadline + Slack;
-            const std::string fault = isStuck ? "took too long" : count(reading, file, original, isCut(damage));
+            const std::string fault = isStuck ? "took too long" : count(reading, file, original, damage);
+            if (original.isWhole)
+                ++m_silence[static_cast<std::size_t>(damage)].tables;
             if (fault.empty())
                 continue;
             ++m_counts.faults;
@@ -232,9 +159,27 @@ public:
 
     const Counts& counts() const { return m_counts; }
 
+    void printSilence() const
+    {
+        std::uint64_t tables = 0;
+        std::uint64_t changed = 0;
+        const auto print = [](const char* name, std::uint64_t all, std::uint64_t silent) {
+            std::printf("%-20s %8llu of %9llu  %6.3f %%\n", name, static_cast<unsigned long long>(silent),
+                        static_cast<unsigned long long>(all),
+                        all == 0 ? 0.0 : 100.0 * static_cast<double>(silent) / static_cast<double>(all));
+        };
+        std::printf("Tables that show something else without a word:\n");
+        for (std::size_t i = 0; i < DamageNames.size(); ++i) {
+            print(DamageNames[i], m_silence[i].tables, m_silence[i].changed);
+            tables += m_silence[i].tables;
+            changed += m_silence[i].changed;
+        }
+        print("all", tables, changed);
+    }
+
 private:
     /// Counts the reading; what is wrong with it, "" if nothing.
-    std::string count(const Reading& reading, const MemoryFile& file, const Original& original, bool wasCut)
+    std::string count(const Reading& reading, const MemoryFile& file, const Original& original, Damage damage)
     {
         if (reading.reason.empty() != (reading.table.rows() > 0))
             return "neither a table nor a reason, or both";
@@ -244,14 +189,18 @@ private:
         }
         if (reading.reason.empty()) {
             ++m_counts.opened;
-            const bool isLess = wasCut && original.isWhole && gridOf(reading.table) != original.grid;
-            return isLess ? "the file was cut, but no notice says so" : "";
+            const bool hasChanged = original.isWhole && gridOf(reading.table) != original.grid;
+            if (hasChanged)
+                ++m_silence[static_cast<std::size_t>(damage)].changed;
+            return hasChanged && isCut(damage) ? "the file was cut, but no notice says so" : "";
         }
         const Asked asked{.file = file.path().filename(), .table = original.table};
         for (const Refusal refusal : {Refusal::NoProperAnswer, Refusal::NotStarted})
             if (reading.reason == reasonFor(refusal, asked))
                 return reading.reason;
-        if (reading.reason == reasonFor(Refusal::Died, asked))
+        // The system also stops a library that ends itself: to do so it is not allowed.
+        if (reading.reason == reasonFor(Refusal::Died, asked) ||
+            reading.reason == reasonFor(Refusal::Overstepped, asked))
             ++m_counts.died;
         else if (reading.reason == reasonFor(Refusal::TooSlow, asked))
             ++m_counts.stopped;
@@ -264,6 +213,7 @@ private:
     const std::uint64_t m_seed;
     const std::string m_saveAs;
     Counts m_counts{};
+    std::array<Silence, DamageNames.size()> m_silence{};
     std::mutex m_printing;
 };
 
@@ -325,5 +275,6 @@ int main(int count, char** arguments)
         static_cast<unsigned long long>(counts.opened), static_cast<unsigned long long>(counts.noticed),
         static_cast<unsigned long long>(counts.refused), static_cast<unsigned long long>(counts.died),
         static_cast<unsigned long long>(counts.stopped), static_cast<unsigned long long>(counts.faults));
+    campaign.printSilence();
     return counts.faults == 0 ? 0 : 1;
 }

@@ -3,6 +3,7 @@
 // The bytes are tried as they are, behind a greeting, and as the recipe for a whole output that is then cut, changed
 // or left as it is.
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -11,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "figures/utf8.h"
 #include "store/reader_output.h"
 #include "store/wire_output.h"
 
@@ -40,10 +42,11 @@ Reading tryParsing(std::string_view bytes)
         for (int column = 0; column < reading.table.columns(); ++column)
             size += reading.table.text(row, column).size();
     hold(size <= bytes.size(), "the cells hold more than was written");
+    hold(figures::isUtf8(reading.notice) && figures::isUtf8(reading.reason), "what is said is no UTF-8");
     return reading;
 }
 
-/// A table made up from numbers at random.
+/// A table made up from numbers at random; one of some is no UTF-8.
 struct Recipe {
     std::vector<WireOutput::Cells> rows;  // headings first
     WireOutput output;
@@ -54,7 +57,7 @@ Recipe makeUp(std::mt19937& random)
     const auto text = [&random] {
         std::string made(random() % 5, ' ');
         for (char& character : made)
-            character = static_cast<char>(random());
+            character = static_cast<char>(random() % 16 == 0 ? random() : random() % 128);
         return made;
     };
     Recipe recipe;
@@ -74,6 +77,12 @@ void tryRecipe(std::mt19937& random)
 {
     const Recipe recipe = makeUp(random);
     const Reading reading = tryParsing(recipe.output.bytes());
+    const bool isUtf8 = std::all_of(recipe.rows.begin(), recipe.rows.end(), [](const WireOutput::Cells& cells) {
+        return std::all_of(cells.begin(), cells.end(), figures::isUtf8);
+    });
+    hold(reading.reason.empty() == isUtf8, "an output is read that is no UTF-8, or a whole one is not");
+    if (!isUtf8)
+        return;
     hold(reading.table.rows() == static_cast<int>(recipe.rows.size()), "a whole output is not read");
     for (std::size_t row = 0; row < recipe.rows.size(); ++row)
         for (std::size_t column = 0; column < recipe.rows[row].size(); ++column)

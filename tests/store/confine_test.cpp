@@ -138,17 +138,18 @@ TEST_F(SystemCalls, TheProgramThatStartedItIsLeftAlone)
     siginfo_t queued{};
     queued.si_code = SI_QUEUE;
     const rlimit none{};
-    EXPECT_TRUE(isEndedAt(SYS_kill, getppid(), 0));
-    EXPECT_TRUE(isEndedAt(SYS_tkill, getppid(), 0));
-    EXPECT_TRUE(isEndedAt(SYS_tgkill, getppid(), getppid(), 0));
-    EXPECT_TRUE(isEndedAt(SYS_rt_sigqueueinfo, getppid(), 0, &queued));
-    EXPECT_TRUE(isEndedAt(SYS_rt_tgsigqueueinfo, getppid(), getppid(), 0, &queued));
+    const int priority = getpriority(PRIO_PROCESS, 0);
+    EXPECT_TRUE(isEndedAt(SYS_kill, getpid(), 0));
+    EXPECT_TRUE(isEndedAt(SYS_tkill, getpid(), 0));
+    EXPECT_TRUE(isEndedAt(SYS_tgkill, getpid(), getpid(), 0));
+    EXPECT_TRUE(isEndedAt(SYS_rt_sigqueueinfo, getpid(), 0, &queued));
+    EXPECT_TRUE(isEndedAt(SYS_rt_tgsigqueueinfo, getpid(), getpid(), 0, &queued));
     EXPECT_TRUE(isEndedAt(SYS_pidfd_send_signal, -1, 0, nullptr, 0));
-    EXPECT_TRUE(isEndedAt(SYS_prlimit64, getppid(), RLIMIT_FSIZE, nullptr, nullptr));
-    EXPECT_TRUE(isEndedAt(SYS_prlimit64, getppid(), RLIMIT_CPU, &none, nullptr));
-    EXPECT_TRUE(isEndedAt(SYS_ptrace, 16, getppid(), nullptr, nullptr));
-    EXPECT_TRUE(isEndedAt(SYS_setpriority, PRIO_PROCESS, getppid(), 19));
-    EXPECT_EQ(getpriority(PRIO_PROCESS, 0), 0) << "or this test was started with another priority";
+    EXPECT_TRUE(isEndedAt(SYS_prlimit64, getpid(), RLIMIT_FSIZE, nullptr, nullptr));
+    EXPECT_TRUE(isEndedAt(SYS_prlimit64, getpid(), RLIMIT_CPU, &none, nullptr));
+    EXPECT_TRUE(isEndedAt(SYS_ptrace, 16, getpid(), nullptr, nullptr));
+    EXPECT_TRUE(isEndedAt(SYS_setpriority, PRIO_PROCESS, getpid(), 19));
+    EXPECT_EQ(getpriority(PRIO_PROCESS, 0), priority);
 }
 
 // Bytes that arrive in a pipe would have sent the program the signal that ends it.
@@ -157,11 +158,11 @@ TEST_F(SystemCalls, NoSignalIsBookedForThatProgram)
     std::array<int, 2> pipe{};
     ASSERT_EQ(::pipe(pipe.data()), 0);
     constexpr int setSignal = 10;  // F_SETSIG
-    EXPECT_TRUE(isEndedAt(SYS_fcntl, pipe[0], F_SETOWN, getppid()));
+    EXPECT_TRUE(isEndedAt(SYS_fcntl, pipe[0], F_SETOWN, getpid()));
     EXPECT_TRUE(isEndedAt(SYS_fcntl, pipe[0], setSignal, SIGKILL));
     EXPECT_TRUE(isEndedAt(SYS_fcntl, pipe[0], F_SETFL, O_ASYNC));
     constexpr int setOwner = 0x8901;  // FIOSETOWN
-    const int owner = getppid();
+    const int owner = getpid();
     EXPECT_TRUE(isEndedAt(SYS_ioctl, pipe[0], setOwner, &owner));
     EXPECT_EQ(fcntl(pipe[0], F_GETOWN), 0);
     close(pipe[0]);
@@ -336,6 +337,14 @@ TEST(Confine, MemoryEnds)
 #else
     EXPECT_EQ(statusAfter([] { return malloc(std::size_t{300} << 20) == nullptr ? 0 : 1; }), 0);
     EXPECT_EQ(statusAfter([] { return malloc(std::size_t{64} << 20) != nullptr ? 0 : 1; }), 0);
+    for (const std::size_t size : {std::size_t{1} << 10, std::size_t{100} << 10, std::size_t{1} << 20})
+        EXPECT_EQ(statusAfter([size] {
+                      while (malloc(size) != nullptr) {
+                      }
+                      return 0;
+                  }),
+                  0)
+            << "in pieces of " << size << " bytes";
 #endif
 }
 

@@ -161,6 +161,34 @@ TEST(DataFile, EmptyTablesHaveTheirHeadings)
     }
 }
 
+// Not the tables of the Sr SE, but those of Access itself in the files that they were made from: nothing of what Access
+// writes is taken for damage.
+TEST(DataFile, TablesOfAccessItselfKeepTheRules)
+{
+    const struct {
+        const char* file;
+        const char* table;
+        int records;
+    } tables[] = {
+        {"format-2003.mdb", "MSysObjects", 29},
+        {"format-2007.accdb", "MSysObjects", 39},
+        {"format-2003.mdb", "MSysACEs", 97},
+        {"format-2007.accdb", "MSysACEs", 127},
+        {"format-2003.mdb", "MSysAccessStorage", 23},
+        {"format-2007.accdb", "MSysAccessStorage", 23},
+        {"format-2003.mdb", "MSysNavPaneObjectIDs", 22},
+        {"format-2007.accdb", "MSysNavPaneObjectIDs", 19},
+        {"format-2003.mdb", "MSysNavPaneGroups", 9},
+        {"format-2007.accdb", "MSysNavPaneGroups", 9},
+    };
+    for (const auto& [file, table, records] : tables) {
+        const Reading reading = read(dataFile(file), table);
+        EXPECT_EQ(reading.reason, "") << file << ", " << table;
+        EXPECT_EQ(reading.notice.find("damaged"), std::string::npos) << file << ", " << table << ": " << reading.notice;
+        EXPECT_EQ(reading.table.rows(), records + 1) << file << ", " << table;
+    }
+}
+
 TEST(DataFile, CapitalsInTheTablesNameDoNotMatter)
 {
     EXPECT_EQ(gridOf(read(sample("1-ambapur.mdb"), "tr").table), expectedGrid("1-ambapur", "TR"));

@@ -143,8 +143,8 @@ TEST(ReaderOutput, WhatTheScreenHasToAskIsToldApart)
 {
     EXPECT_FALSE(parsed(whole()).isStale);
     EXPECT_TRUE(parsed(WireOutput().headings({"A"}).shortfall(0, false, false, 0, {}, {}, true).end()).isStale);
-    EXPECT_FALSE(parsed(WireOutput().failure(Refusal::Damaged).end()).isUnconfined);
-    EXPECT_TRUE(parsed(WireOutput().failure(Refusal::Unconfined).end()).isUnconfined);
+    EXPECT_FALSE(parsed(WireOutput().failure(Refusal::Damaged).end()).needsPermission);
+    EXPECT_TRUE(parsed(WireOutput().failure(Refusal::Unconfined).end()).needsPermission);
 }
 
 TEST(ReaderOutput, OtherGreetingsAreNoAnswer)

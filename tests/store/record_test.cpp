@@ -82,6 +82,7 @@ INSTANTIATE_TEST_SUITE_P(Records, RecordOf2000, testing::Values(
     Case{"EndFarAway",          {5,0, 'a','b','c','d', 'x','y','z', 9,9, 8,0, 6,0, 2,0, 0x1F}, "!"},
     Case{"InTheFixedPart",      {5,0, 'a','b','c','d', 'x','y','z', 9,0, 8,0, 5,0, 2,0, 0x1F}, "!"},
     Case{"BytesWithoutValue",   {5,0, 'a','b','c','d', 'x','y','z', 9,0, 8,0, 6,0, 2,0, 0x17}, "!"},
+    Case{"BytesWithoutColumn",  {4,0, 'a','b','c','d', 'x','y','z', 9,0, 8,0, 6,0, 2,0, 0x0F}, "!"},
     Case{"ValueWithoutPlace",   {5,0, 'a','b','c','d', 'x','y','z',      9,0, 6,0, 1,0, 0x1F}, "!"}),
     [](const auto& tested) { return tested.param.name; });
 // clang-format on

@@ -103,12 +103,40 @@ std::string surroundings(char** environment)
     return found.empty() ? "nothing" : found;
 }
 
+/// One segment from km 10 to `end`.
+WireOutput track(const std::string& end)
+{
+    return WireOutput()
+        .headings({"ID", "NSEG", "SEGNO", "LINE", "KMFROM", "KMTO", "EXTRAKM", "CONCKM", "CONCTOUT", "TOTTOUT", "GMT",
+                   "LWRKM", "METHOD"})
+        .record({"1", "1", "1", "UP", "10", end, "0", "0", "0", "0", "23.7", "3", "Machine Packed"});
+}
+
+/// Wants to be allowed to read.
+WireOutput unconfined(bool isAllowed)
+{
+    return isAllowed ? track("25").shortfall(1).end() : WireOutput().failure(store::Refusal::Unconfined).end();
+}
+
+/// Is written to while it is read, the first time; FILE remembers that.
+WireOutput saved(const char* file)
+{
+    const bool isFirst = access(file, F_OK) != 0;
+    writeDown(0, file);
+    return isFirst ? track("999").shortfall(1, false, false, 0, {}, {}, true).end() : track("25").shortfall(1).end();
+}
+
 }  // namespace
 
-int main(int, char** arguments, char** environment)
+int main(int count, char** arguments, char** environment)
 {
+    const std::string file = arguments[1];
     const std::string how = arguments[2];
-    if (how == "good")
+    if (file.ends_with("unconfined.mdb"))
+        write(unconfined(count == 4 && arguments[3] == store::wire::Unconfined).bytes());
+    else if (file.ends_with("saved.mdb"))
+        write(saved(arguments[1]).bytes());
+    else if (how == "good")
         write(good().bytes());
     else if (how == "surroundings")
         write(WireOutput().headings({surroundings(environment)}).shortfall(0).end().bytes());

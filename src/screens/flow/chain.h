@@ -109,7 +109,7 @@ public:
     const SrSe& srSe() const { return m_srSe; }
 
     Dialogs& dialogs() { return m_dialogs; }
-    const store::DataFile& dataFile() const { return m_dataFile; }
+    store::DataFile& dataFile() { return m_dataFile; }
 
 private:
     struct Link {

@@ -69,6 +69,10 @@ void ImportScreen::addSource(const QString& path)
 {
     if (m_opensCompute)
         openComputeByTyping();
+    connect(&m_import, &QAbstractButton::pressed, this, [this] {  // before the click that imports
+        if (m_isStale)
+            readSource(m_path);
+    });
     auto* panel = new QWidget;
     auto* down = new QVBoxLayout(panel);
     down->setContentsMargins(0, 0, 0, 0);
@@ -96,6 +100,8 @@ void ImportScreen::readSource(const QString& path)
 {
     m_path = path;
     m_reason.clear();
+    m_needsPermission = false;
+    m_isStale = false;
     grid.setTable(store::Table(m_tableName.toStdString(), {}));  // an import names what is missing
     if (path.trimmed().isEmpty()) {                              // the box starts with blanks
         m_remark = "No data file chosen";
@@ -106,6 +112,8 @@ void ImportScreen::readSource(const QString& path)
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     store::Reading reading = chain.dataFile().read(QFile::encodeName(path).toStdString(), m_tableName.toStdString());
     QGuiApplication::restoreOverrideCursor();
+    m_needsPermission = reading.needsPermission;
+    m_isStale = reading.isStale;
     m_reason = QString::fromStdString(reading.reason);
     m_remark = m_reason.isEmpty() ? QString::fromStdString(reading.notice) : m_reason;
     updateMessage();
@@ -132,6 +140,17 @@ void ImportScreen::updateMessage()
 
 void ImportScreen::onFirstShown()
 {
+    if (m_needsPermission) {
+        const bool isAllowed = chain.dialogs().askYesNo(*this, m_sourceCaption,
+                                                        "This system cannot confine the program that reads data files: "
+                                                        "a file made to do harm could do whatever you "
+                                                        "can do. Read data files all the same, until Crewmark ends?",
+                                                        false);
+        chain.dataFile().allowUnconfined(isAllowed);
+        if (!isAllowed)
+            return;
+        readSource(m_path);
+    }
     if (!m_reason.isEmpty())
         chain.dialogs().showCritical(*this, m_sourceCaption, m_reason);
 }

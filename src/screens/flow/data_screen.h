@@ -99,6 +99,8 @@ private:
     QString m_remark;  // on the file
     QString m_hint;
     QString m_importedFrom;
+    bool m_needsPermission = false;  // to read the file
+    bool m_isStale = false;          // the file was written to while it was read
 };
 
 }  // namespace flow

@@ -24,10 +24,10 @@ bool Record::take(Bytes record, const Definition& table)
     m_columns = columns;
     const std::size_t fixedEnd = m_places.empty() ? maskBegin : m_places.front();
     const bool isSound = std::all_of(table.columns.begin(), table.columns.end(), [&](const Column& column) {
-        if (column.number >= columns || column.isInMask())
+        if (column.isInMask())
             return true;
         if (column.isFixed)
-            return m_countSize + column.place + column.length <= fixedEnd;
+            return column.number >= columns || m_countSize + column.place + column.length <= fixedEnd;
         const bool hasPlace = column.place + std::size_t{1} < m_places.size();
         return isNull(column) ? !hasPlace || m_places[column.place] == m_places[column.place + 1] : hasPlace;
     });
