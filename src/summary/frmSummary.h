@@ -18,7 +18,7 @@ public:
     /// Number of Sr SEs. txtRly: 0 railway, 1 division, 2 date.
     controls::TextBox txtSSN{"txtSSN"};
 
-    // The table. The total row's place is kept in the property "Top" of its boxes, in twips.
+    // The table. The total row's position is kept in the property "Top" of its boxes, in twips.
     controls::ControlArray<controls::TextBox> txtSN{"txtSN", Rows};      ///< index
     controls::ControlArray<controls::TextBox> txtSSE{"txtSSE", Rows};    ///< Sr SE
     controls::ControlArray<controls::TextBox> txtTkm{"txtTkm", Rows};    ///< total km
@@ -67,7 +67,6 @@ private:
     void layOut();
     controls::RowSheet* table();
     void markShortage(int row);
-    void takeOver();
     void typedByHand(int row);
     int row() const;
     void nextSrSe();

@@ -84,7 +84,7 @@ RowSheet& RowSheet::textResult(ControlArray<TextBox>& texts, int characters)
     return addColumn(texts, characters, {}, [](TextBox& box) { box.setLocked(true); });
 }
 
-QString RowSheet::spokenName(std::size_t column, int row) const
+QString RowSheet::accessibleNameOf(std::size_t column, int row) const
 {
     QString name;
     for (const Heading& heading : m_headings)
@@ -105,7 +105,7 @@ void RowSheet::finish()
                 continue;
             box->setParent(this);
             box->setVisible(row == m_rows ? m_totalShown : row < m_shownRows);
-            box->setAccessibleName(spokenName(column, row));
+            box->setAccessibleName(accessibleNameOf(column, row));
         }
     }
     m_band->raise();
@@ -137,9 +137,9 @@ std::vector<QWidget*> RowSheet::totalBoxes() const
     return boxes;
 }
 
-void RowSheet::setTotalPlace(double place)
+void RowSheet::setTotalPosition(double position)
 {
-    m_totalPlace = place;
+    m_totalPosition = position;
     layOut();
 }
 
@@ -158,9 +158,9 @@ int RowSheet::narrowest(const Column& column) const
     return column.characters * fontMetrics().horizontalAdvance('0') + 14;
 }
 
-double RowSheet::totalPlace() const
+double RowSheet::totalPosition() const
 {
-    return m_totalPlace >= 0 ? m_totalPlace : m_shownRows;
+    return m_totalPosition >= 0 ? m_totalPosition : m_shownRows;
 }
 
 std::vector<int> RowSheet::columnEdges() const
@@ -228,13 +228,13 @@ void RowSheet::layOut()
             QWidget* box = m_columns[c].boxes[static_cast<std::size_t>(row)];
             if (!box || box->isHidden())
                 continue;
-            const double place = row == m_rows ? totalPlace() : row;
-            box->setGeometry(edges[c], m_headingHeight + static_cast<int>(place * rowHeight()),
+            const double position = row == m_rows ? totalPosition() : row;
+            box->setGeometry(edges[c], m_headingHeight + static_cast<int>(position * rowHeight()),
                              edges[c + 1] - edges[c] - Gap, rowHeight() - 1);
         }
     }
     if (m_totalCaption)
-        layOutTotalCaption(edges, m_headingHeight + static_cast<int>(totalPlace() * rowHeight()));
+        layOutTotalCaption(edges, m_headingHeight + static_cast<int>(totalPosition() * rowHeight()));
     setMinimumHeight(sizeHint().height());
     updateGeometry();
 }
@@ -252,10 +252,10 @@ QSize RowSheet::sizeHint() const
     int needed = 0;
     for (const Column& column : m_columns)
         needed += narrowest(column) + Gap;
-    double places = m_shownRows;
+    double rows = m_shownRows;
     if (m_totalShown)
-        places = std::max(places, totalPlace()) + 1;
-    return {needed, m_headingHeight + static_cast<int>(places * rowHeight()) + 1};
+        rows = std::max(rows, totalPosition()) + 1;
+    return {needed, m_headingHeight + static_cast<int>(rows * rowHeight()) + 1};
 }
 
 bool RowSheet::event(QEvent* event)

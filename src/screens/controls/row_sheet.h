@@ -44,8 +44,8 @@ public:
     void showTotal();
     std::vector<QWidget*> totalBoxes() const;
 
-    /// The total row's place, counted in rows from the first; it then no longer follows the rows shown.
-    void setTotalPlace(double place);
+    /// The total row's position, counted in rows from the first; it then no longer follows the rows shown.
+    void setTotalPosition(double position);
 
     /// Keeps the headings in view after the sheet was scrolled down by `scrolled` pixels.
     void pinHeadings(int scrolled);
@@ -73,10 +73,10 @@ private:
 
     template <class Box, class Prepare>
     RowSheet& addColumn(ControlArray<Box>& boxes, int characters, const QString& part, Prepare prepare);
-    QString spokenName(std::size_t column, int row) const;
+    QString accessibleNameOf(std::size_t column, int row) const;
     int narrowest(const Column& column) const;
     int rowHeight() const;
-    double totalPlace() const;
+    double totalPosition() const;
     std::vector<int> columnEdges() const;
     void layOutHeadings(const std::vector<int>& edges);
     void layOutTotalCaption(const std::vector<int>& edges, int top);
@@ -88,7 +88,7 @@ private:
     bool m_totalRow = false;
     bool m_totalShown = false;
     Caption* m_totalCaption = nullptr;
-    double m_totalPlace = -1.0;
+    double m_totalPosition = -1.0;
     QWidget* m_band;  // the headings, opaque, above the rows that scroll under them
     int m_headingHeight = 0;
     std::vector<Column> m_columns;

@@ -108,7 +108,7 @@ TEST_F(Rows, TheTotalStandsUnderTheLastRowShown)
     sheet->showRows(4);
     settle();
     EXPECT_EQ(turnouts(Count).y(), km(3).y() + row);
-    sheet->setTotalPlace(6);
+    sheet->setTotalPosition(6);
     EXPECT_EQ(turnouts(Count).y(), km(0).y() + 6 * row);
 }
 
