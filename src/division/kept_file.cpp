@@ -15,7 +15,7 @@ namespace {
 
 constexpr int Version = 1;
 constexpr int MaxSrSes = 15;
-constexpr qint64 MaxBytes = 4 * 1024 * 1024;
+constexpr qint64 MaxBytes = 4LL * 1024 * 1024;
 
 [[noreturn]] void refuse(const QString& place, const QString& reason)
 {
@@ -122,7 +122,7 @@ QByteArray bytesOf(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         refuse(path, file.errorString());
-    const QByteArray bytes = file.read(MaxBytes + 1);
+    QByteArray bytes = file.read(MaxBytes + 1);
     if (bytes.size() > MaxBytes)
         refuse(path, "the file has more than 4 MiB");
     return bytes;

@@ -13,8 +13,8 @@ namespace division {
 
 namespace {
 
-const Step& Start = Steps.front();
-const Step& Summary = Steps.back();
+constexpr Step Start = Steps.front();
+constexpr Step Summary = Steps.back();
 const char* const GrandTotal = "cmdTotal";
 
 class Replay {

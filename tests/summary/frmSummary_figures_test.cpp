@@ -1,6 +1,10 @@
 #include "summary/frmSummary.h"
 
+#include "activities/misc/frmM1.h"
+#include "activities/site/frmS1.h"
 #include "summary/summary_screen.h"
+#include "track/frmT1.h"
+#include "track/frmT2.h"
 
 namespace {
 
@@ -130,7 +134,7 @@ TEST_F(SummaryScreen, AfterAnSrSeThatIsNotTheLastTheStartScreenTakesTheNext)
     start.txtT1(4).setText("3");
     const frmSummary& form = open("5");
     work("3", {"10000", "2000", "1000"}, {"10", "3", "40", "5"});
-    watchDepartures<frmT1, frmT2, frmT4, frmY, frmM1, frmM2, frmS1, frmS2>();
+    watchDepartures();
     start.txtT1(1).setText("/data/3.mdb");
     click("cmdTransfer");
     dialogs.expectMessage("Proceed for Next Subordinate", "Continue for Next Sr SSE on the Division");

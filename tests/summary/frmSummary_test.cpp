@@ -5,6 +5,7 @@
 
 #include "summary/summary_screen.h"
 #include "support/lock_tip.h"
+#include "track/frmT1.h"
 
 namespace {
 
@@ -319,7 +320,7 @@ TEST_F(SummaryScreen, ExitUnloadsTheTenScreensInTheirOrder)
     work("1", {"1", "2", "3"}, {"4", "5", "6", "7"});
     transferAndComputeLast();
     click("cmdTotal");
-    watchDepartures<frmStart, frmT1, frmT2, frmT4, frmY, frmM1, frmM2, frmS1, frmS2, frmSummary>();
+    watchDepartures();
     expectPrintQuestion(false);
     click("cmdExit");
     EXPECT_EQ(departed, "frmStart frmT1 frmT2 frmT4 frmY frmM1 frmM2 frmS1 frmS2 frmSummary ");

@@ -4,17 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "activities/misc/frmM1.h"
 #include "activities/misc/frmM2.h"
-#include "activities/site/frmS1.h"
 #include "activities/site/frmS2.h"
 #include "start/frmStart.h"
 #include "summary/frmSummary.h"
 #include "support/screen_test.h"
-#include "track/frmT1.h"
-#include "track/frmT2.h"
 #include "track/frmT4.h"
-#include "yards/frmY.h"
 
 /// frmSummary, behind screens that hold what a test wants them to.
 class SummaryScreen : public ScreenTest {  // slow
@@ -70,12 +65,11 @@ protected:
         establish(establishment);
     }
 
-    /// Shows these screens and writes the name of each into `departed` when it is taken off.
-    template <class... Forms>
+    /// Shows all screens and writes the name of each into `departed` when it is taken off.
     void watchDepartures()
     {
-        (chain.show<Forms>().installEventFilter(&m_watcher), ...);
-        on<frmSummary>();
+        for (flow::Screen* screen : onAll())
+            screen->installEventFilter(&m_watcher);
     }
 
     void transferAndComputeLast()

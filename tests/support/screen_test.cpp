@@ -55,6 +55,7 @@ flow::Screen& ScreenTest::onNext()
 std::vector<flow::Screen*> ScreenTest::onAll()
 {
     std::vector<flow::Screen*> screens;
+    m_form = nullptr;
     while (screens.size() < division::Steps.size())
         screens.push_back(&onNext());
     return screens;
