@@ -57,16 +57,18 @@ int frmSummary::row() const
 
 void frmSummary::cmdTransfer_Click()
 {
-    SrSEIndex = valueOf(chain.get<frmStart>().txtT1(4));
+    const flow::SrSe& srSe = chain.srSe();
+    SrSEIndex = figures::valueOf(srSe.index.toStdString());
     const int r = row();
 
-    // Pressed before the next Sr SE's screens have been worked, it finds none of them: blanks.
+    // Pressed before the next Sr SE's screens have been worked, it finds none of them: the row has the Sr SE's name and
+    // number, which a new track screen would show, and else blanks.
     const auto* t1 = chain.find<frmT1>();
     const auto* t4 = chain.find<frmT4>();
     const auto* m2 = chain.find<frmM2>();
     const auto* s2 = chain.find<frmS2>();
-    txtSSE(r).setText(t1 ? t1->txtT1(1).text() : "");
-    txtSN(r).setText(t1 ? t1->txtT1(4).text() : "");
+    txtSSE(r).setText(t1 ? t1->txtT1(1).text() : srSe.name);
+    txtSN(r).setText(t1 ? t1->txtT1(4).text() : srSe.index);
     txtTkm(r).setText(t1 ? t1->txtTkm(r).text() : "");  // the segment of the row's own number, not the Sr SE's total
     txtTR(r).setText(t4 ? t4->txtMan3(frmT4::Total).text() : "");
     txtM(r).setText(m2 ? m2->txtMan9.text() : "");
@@ -137,7 +139,7 @@ void frmSummary::nextSrSe()
     start.txtT1(0).setText("");
     start.txtT1(0).setFocus();
     start.txtT1(4).setText(QString::fromStdString(figures::textOf(SrSEIndex + 1)));
-    chain.show<frmStart>();
+    chain.show<frmStart>(this);
     cmdCompute.setEnabled(false);
     focusDefault(cmdTransfer);  // when this screen comes back
 }

@@ -58,11 +58,11 @@ void frmT1::takeSrSe()
 // A name that was forgotten or mistyped would otherwise be missing on every sheet of the Sr SE.
 void frmT1::onShownAgain()
 {
-    ImportScreen::onShownAgain();
-    if (cmdNext.isEnabled())
-        return;
-    takeSrSe();
-    openCount();
+    if (isUntouched()) {
+        takeSrSe();
+        ImportScreen::onShownAgain();
+        openCount();
+    }
 }
 
 void frmT1::layOut()

@@ -63,6 +63,8 @@ const Rule Rules[] = {
     // the start screen and what the summary prepares there for the next Sr SE
     {"frmStart.txtT1\\(1\\)", "frmStart.cmdFile|frmSummary.cmdCompute"},
     {"frmStart.txtT1\\(4\\)", "frmSummary.cmdCompute"},
+    // a name given late, on a screen where nothing has been entered
+    {"frmT1.txtT1\\(1\\)", "frmStart.cmdProceed"},
     // what a screen computes
     {R"(frmT1.txt(Tkm|Eqtkm)\(\d+\))", "frmT1.cmdCompute"},
     {R"(frmT2.txt(A|B|C|ABC)\(\d+\))", "frmT2.cmdCompute"},
