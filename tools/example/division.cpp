@@ -83,7 +83,7 @@ void Worker::photograph(const Moment& moment) const
     else
         return;
     moment.screen.resize(flow::OpeningSize);
-    for (int i = 0; i < 4; ++i)  // what was shown is laid out, and what wraps then once more
+    for (int i = 0; i < 10; ++i)  // what was shown is laid out, and what wraps then once more
         QApplication::processEvents();
     const QString file = m_output.folder + "/" + name + ".png";
     if (!moment.screen.grab().save(file))
