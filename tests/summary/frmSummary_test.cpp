@@ -2,9 +2,11 @@
 
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTemporaryDir>
 
 #include "summary/summary_screen.h"
 #include "support/lock_tip.h"
+#include "support/pdf.h"
 #include "track/frmT1.h"
 
 namespace {
@@ -334,7 +336,8 @@ TEST_F(SummaryScreen, PrintedItEndsAtOnce)
     work("1", {"1", "2", "3"}, {"4", "5", "6", "7"});
     transferAndComputeLast();
     click("cmdTotal");
-    const std::string pdf = testing::TempDir() + "frmSummary.pdf";
+    const QTemporaryDir prints;
+    const std::string pdf = prints.filePath("frmSummary").toStdString();
     dialogs.expectPrint({1, 1, 1}, pdf);
     click("cmdPrint");
     EXPECT_EQ(form.Printed, 1);

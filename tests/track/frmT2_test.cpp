@@ -2,6 +2,7 @@
 
 #include "start/frmStart.h"
 #include "support/lock_tip.h"
+#include "support/pdf.h"
 #include "track/frmT4.h"
 #include "track/ground_screen.h"
 

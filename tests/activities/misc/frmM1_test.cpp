@@ -1,6 +1,9 @@
+#include <QTemporaryDir>
+
 #include "activities/misc/frmM2.h"
 #include "activities/misc/patrolling_screen.h"
 #include "support/lock_tip.h"
+#include "support/pdf.h"
 
 namespace {
 
@@ -355,7 +358,8 @@ TEST_F(PatrollingScreen, NextAsksUntilTheFormIsPrinted)
     click("cmdNext");
     EXPECT_FALSE(chain.isLoaded<frmM2>());
 
-    const std::string pdf = testing::TempDir() + "frmM1.pdf";
+    const QTemporaryDir prints;
+    const std::string pdf = prints.filePath("frmM1").toStdString();
     dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 1}, pdf);
     click("cmdPrint");
     EXPECT_EQ(form.Printed, 1);

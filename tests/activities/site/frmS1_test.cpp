@@ -1,6 +1,9 @@
 #include "activities/site/frmS1.h"
 
+#include <QTemporaryDir>
+
 #include "activities/site/site_screen.h"
+#include "support/pdf.h"
 
 namespace {
 
@@ -375,7 +378,8 @@ TEST_F(FirstSiteScreen, PrintedItGoesOnAtOnce)
     auto& form = open<frmS1>(sample("1-ambapur.mdb"));
     click("cmdData");
     click("cmdCompute");
-    const std::string pdf = testing::TempDir() + "frmS1.pdf";
+    const QTemporaryDir prints;
+    const std::string pdf = prints.filePath("frmS1").toStdString();
     dialogs.expectPrint({1, 1, 2}, pdf);
     click("cmdPrint");
     EXPECT_EQ(form.Printed, 1);

@@ -3,6 +3,7 @@
 
 #include "screens/flow/data_screen.h"
 #include "support/lock_tip.h"
+#include "support/pdf.h"
 #include "support/screen_test.h"
 
 namespace {
