@@ -1,5 +1,7 @@
 #include "figures/run_time_error.h"
 
+#include <utility>
+
 namespace figures {
 
 namespace {
@@ -25,6 +27,11 @@ const char* nameOf(ErrorKind kind)
 
 RunTimeError::RunTimeError(ErrorKind kind, const std::string& detail, int row)
     : std::runtime_error(std::string(nameOf(kind)) + ": " + detail + "."), m_kind(kind), m_row(row)
+{
+}
+
+RunTimeError::RunTimeError(ErrorKind kind, const std::string& detail, SourcePtr source)
+    : std::runtime_error(std::string(nameOf(kind)) + ": " + detail + "."), m_kind(kind), m_source(std::move(source))
 {
 }
 

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "figures/source.h"
+
 namespace figures {
 
 enum class ErrorKind { DivisionByZero, TypeMismatch, SubscriptOutOfRange, Overflow, FloatingPoint };
@@ -15,13 +17,17 @@ public:
 
     /// `row` is the row at fault, counted from 0, so that the screen can bring it into view.
     RunTimeError(ErrorKind kind, const std::string& detail, int row = NoRow);
+    /// `source` is the box at fault.
+    RunTimeError(ErrorKind kind, const std::string& detail, SourcePtr source);
 
     ErrorKind kind() const { return m_kind; }
     int row() const { return m_row; }
+    const SourcePtr& source() const { return m_source; }
 
 private:
     ErrorKind m_kind;
-    int m_row;
+    int m_row = NoRow;
+    SourcePtr m_source;
 };
 
 /// `name` with the number of the row as the screen counts it, from 1: numbered("the length of gang", 1) is
