@@ -137,7 +137,7 @@ void frmSummary::nextSrSe()
     start.txtT1(0).setText("");
     start.txtT1(0).setFocus();
     start.txtT1(4).setText(QString::fromStdString(figures::textOf(SrSEIndex + 1)));
-    chain.show<frmStart>();
+    chain.show<frmStart>(this);
     cmdCompute.setEnabled(false);
     focusDefault(cmdTransfer);  // when this screen comes back
 }

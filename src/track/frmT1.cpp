@@ -34,6 +34,7 @@ frmT1::frmT1(flow::Chain& owner, const frmStart& start)
 {
     layOut();
     addSource(start.txtT1(1).text());
+    DataFilePath = dataFile();
     openCount();
     cmdCopy.setEnabled(false);
     setHint("Choose the gauge: it opens the import.");
@@ -52,17 +53,17 @@ void frmT1::takeSrSe()
 {
     txtT1(1).setText(m_start.txtT1(0).text());
     txtT1(4).setText(m_start.txtT1(4).text());
-    DataFilePath = m_start.txtT1(1).text();
 }
 
 // A name that was forgotten or mistyped would otherwise be missing on every sheet of the Sr SE.
 void frmT1::onShownAgain()
 {
+    if (isUntouched())
+        takeSrSe();
     ImportScreen::onShownAgain();
-    if (cmdNext.isEnabled())
-        return;
-    takeSrSe();
-    openCount();
+    DataFilePath = dataFile();
+    if (!cmdNext.isEnabled())
+        openCount();
 }
 
 void frmT1::layOut()

@@ -66,7 +66,7 @@ public:
     double SrSeIndexAtCompute = 0.0;
 
     QWidget* firstBox() override { return &txtT1(0); }
-    /// Takes the Sr SE from the start screen anew, as long as nothing is computed.
+    /// Takes the Sr SE from the start screen anew, as long as the screen is untouched.
     void onShownAgain() override;
 
 private:

@@ -95,43 +95,69 @@ TEST_F(TrackImport, WithoutADataFileThereIsNoBoxAndTheGridsPlaceSaysSo)
     }
 }
 
-TEST_F(TrackImport, AnotherFileChosenSinceIsReadWhenTheScreenComesBack)
+TEST_F(TrackImport, AnotherFileChosenSinceIsReadWhileNothingHasBeenEntered)
 {
-    const char* const mixed = "The figures in the boxes are from another data file.";
     open(sample("2-eklahra.mdb"));
-    import();
-    const std::string eklahra = record(0);
-    open(sample("2-eklahra.mdb"));
-    EXPECT_FALSE(tells(mixed));
-
-    open(sample("1-ambapur.mdb"));
-    EXPECT_EQ(record(0), eklahra) << "the boxes are the user's";
-    EXPECT_TRUE(tells(mixed));
-    click("cmdCopy");
-    EXPECT_EQ(record(0), "1|UP|212.4|248.9|1.2|35.6|14|22|42.6|33.5|Machine Packed");
-    EXPECT_FALSE(tells(mixed));
-
-    open("");  // as the summary empties it for the next Sr SE
-    EXPECT_TRUE(shown("TrGrid"));
     dialogs.expectCriticalWith("Tr Data", "There is no file");
     open(sample("none.mdb"));
     EXPECT_FALSE(shown("TrGrid"));
     EXPECT_TRUE(tells("There is no file"));
-    EXPECT_TRUE(tells(mixed));
-    dialogs.expectCriticalWith(Title, "row 1 of table TR is missing");
-    click("cmdCopy");
-    EXPECT_TRUE(tells(mixed)) << "nothing came from there";
-    EXPECT_EQ(record(0), "1|UP|212.4|248.9|1.2|35.6|14|22|42.6|33.5|Machine Packed");
+    open("");
+    EXPECT_TRUE(tells("No data file chosen"));
+    const frmT1& t1 = open(sample("1-ambapur.mdb"));
+    EXPECT_EQ(t1.DataFilePath.toStdString(), sample("1-ambapur.mdb"));
+    import();
+    EXPECT_EQ(text("txtKmf(0)") + "-" + text("txtKmt(0)"), "212.4-248.9");
 }
 
-TEST_F(TrackImport, AFailedImportLeavesNoFiguresOfAnotherFile)
+// Figures of one file under the name of another, or half of each, would be wrong on every sheet of the Sr SE.
+class TrackEntered : public TrackImport, public testing::WithParamInterface<const char*> {};
+
+TEST_P(TrackEntered, KeepsItsNameAndItsFile)
 {
-    dialogs.expectCriticalWith("Tr Data", "There is no file");
-    open(sample("none.mdb"));
-    dialogs.expectCriticalWith(Title, "row 1 of table TR is missing");
-    import();
+    chain.get<frmStart>().txtT1(0).setText("Sr SE Eklahra");
+    const frmT1& t1 = open(sample("2-eklahra.mdb"));
+    const std::string how = GetParam();
+    if (how == "ATypedSection")
+        type("txtT1(0)", "Sample Section");
+    else if (how == "AChosenGauge")
+        click("optBG");
+    else
+        import();
+
+    chain.get<frmStart>().txtT1(0).setText("Sr SE Ambapur");
     open(sample("1-ambapur.mdb"));
-    EXPECT_FALSE(tells("another data file"));
+    EXPECT_EQ(text("txtT1(1)"), "Sr SE Eklahra");
+    EXPECT_EQ(t1.DataFilePath.toStdString(), sample("2-eklahra.mdb"));
+    import();
+    EXPECT_EQ(text("txtNSeg"), "3") << "Ambapur has 5 segments";
+}
+
+INSTANTIATE_TEST_SUITE_P(By, TrackEntered, testing::Values("ATypedSection", "AChosenGauge", "AnImport"),
+                         [](const auto& how) { return how.param; });
+
+// Typed and taken back: nothing stands there.
+TEST_F(TrackImport, AnEntryTakenBackIsNone)
+{
+    open(sample("2-eklahra.mdb"));
+    type("txtT1(0)", "Sample Section");
+    type("txtT1(0)", "");
+    open(sample("1-ambapur.mdb"));
+    import();
+    EXPECT_EQ(text("txtNSeg"), "5");
+}
+
+// There is nothing yet that another file's figures could be taken for.
+TEST_F(TrackImport, AScreenWithoutATableTakesAFileUpBesideWhatHasBeenEntered)
+{
+    const frmT1& t1 = open("");
+    type("txtT1(0)", "Sample Section");
+    open(sample("1-ambapur.mdb"));
+    EXPECT_EQ(text("txtT1(0)"), "Sample Section");
+    EXPECT_EQ(t1.DataFilePath.toStdString(), sample("1-ambapur.mdb"));
+    open(sample("2-eklahra.mdb"));
+    import();
+    EXPECT_EQ(text("txtNSeg"), "5") << "this one it keeps";
 }
 
 TEST_F(TrackImport, AComputedScreenKeepsItsTable)
@@ -144,7 +170,6 @@ TEST_F(TrackImport, AComputedScreenKeepsItsTable)
     open(sample("1-ambapur.mdb"));
     EXPECT_EQ(dynamic_cast<const controls::DataGrid&>(find("TrGrid")).model()->rowCount(), rows);
     EXPECT_NE(rows, 5) << "as many as Ambapur has";
-    EXPECT_FALSE(tells("another data file"));
 }
 
 TEST_F(TrackImport, AFileChosenAtLastIsReadWhenTheScreenComesBack)

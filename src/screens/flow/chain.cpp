@@ -4,6 +4,7 @@
 #include <QScopedValueRollback>
 #include <QThread>
 #include <algorithm>
+#include <span>
 #include <stdexcept>
 
 #include "screens/flow/placement.h"
@@ -47,18 +48,24 @@ Screen* Chain::find(const QString& name) const
     return nullptr;
 }
 
-void Chain::showNextAfter(const Screen& screen)
+std::size_t Chain::indexOf(const Screen& screen) const
 {
     const auto link =
         std::find_if(m_links.begin(), m_links.end(), [&](const Link& one) { return one.screen.get() == &screen; });
-    if (link != m_links.end() && link + 1 != m_links.end())
-        bringForward(loaded(*(link + 1)), &screen);
+    return static_cast<std::size_t>(link - m_links.begin());
+}
+
+void Chain::showNextAfter(const Screen& screen)
+{
+    if (const std::size_t next = indexOf(screen) + 1; next < m_links.size())
+        bringForward(loaded(m_links[next]), &screen);
 }
 
 void Chain::unload(Link& link)
 {
     if (!link.screen)
         return;
+    m_furthest = std::min(m_furthest, std::max<std::size_t>(indexOf(*link.screen), 1) - 1);
     link.screen->hide();
     // Its own handler may be what unloads it.
     link.screen.release()->deleteLater();
@@ -67,6 +74,7 @@ void Chain::unload(Link& link)
 void Chain::end()
 {
     m_clock.stop();
+    m_furthest = 0;
     for (Link& link : m_links) {
         if (!link.screen)
             continue;
@@ -81,7 +89,8 @@ void Chain::end()
 
 bool Chain::mayHide(Screen& screen)
 {
-    const bool another = std::any_of(m_links.begin(), m_links.end(), [&](const Link& link) {
+    const auto way = std::span(m_links).first(m_furthest + 1);
+    const bool another = std::any_of(way.begin(), way.end(), [&](const Link& link) {
         return link.screen && link.screen.get() != &screen && link.screen->isVisible();
     });
     return another || endAfterQuestion(screen, screen.windowTitle());
@@ -126,13 +135,10 @@ bool Chain::endAfterQuestion(QWidget& parent, const QString& title)
 void Chain::bringForward(Screen& screen, const Screen* before)
 {
     const bool first = !screen.testAttribute(Qt::WA_WState_Created);
-    if (first)
-        place(screen, before);
-    screen.setWindowState(screen.windowState() & ~Qt::WindowMinimized);
-    screen.show();
+    place(screen, before);
+    m_furthest = std::max(m_furthest, indexOf(screen));
+    bringToFront(screen);
     screen.update();  // its backing store may have been freed
-    screen.raise();
-    screen.activateWindow();
     if (first && screen.firstBox())
         screen.firstBox()->setFocus();
     m_clock.start();

@@ -66,12 +66,12 @@ public:
     /// The screen of this object name, nullptr if it is not loaded.
     Screen* find(const QString& name) const;
 
-    /// Brings the screen to the front; creates it if need be.
+    /// Brings the screen to the front; creates it if need be. `before` is the one that the user comes from.
     template <class Form>
-    Form& show()
+    Form& show(const Screen* before = nullptr)
     {
         auto& form = get<Form>();
-        bringForward(form);
+        bringForward(form, before);
         return form;
     }
 
@@ -96,8 +96,9 @@ public:
     /// Unloads all screens in their order and ends the program with status 0.
     void end();
 
-    /// The title bar's X: the screen is hidden, its contents kept. On the last one visible the program ends, after
-    /// a question once there are figures to lose. False: the screen stays.
+    /// The title bar's X: the screen is hidden, its contents kept, as long as another visible one leads on: a screen up
+    /// to the furthest that this Sr SE has come to, as Proceed and Next show all the following again. On the last such
+    /// screen the program ends, after a question once there are figures to lose. False: the screen stays.
     bool mayHide(Screen& screen);
 
     /// The system wants the program to end: what the X on the last screen does, asked on the screen in front. False:
@@ -119,9 +120,10 @@ private:
     };
 
     std::size_t indexOf(std::type_index type) const;
+    std::size_t indexOf(const Screen& screen) const;
     static Screen& loaded(Link& link);
-    static void unload(Link& link);
-    void bringForward(Screen& screen, const Screen* before = nullptr);
+    void unload(Link& link);
+    void bringForward(Screen& screen, const Screen* before);
     Screen* inFront() const;
     bool endAfterQuestion(QWidget& parent, const QString& title);
     void tick(const QString& date);
@@ -131,6 +133,7 @@ private:
     SrSe m_srSe;
     BackingStores m_backingStores;
     std::vector<Link> m_links;
+    std::size_t m_furthest = 0;  // the last screen of the way from the first that has been shown, none unloaded
     std::vector<std::unique_ptr<Screen>> m_ended;  // unloaded by the end of the program
     bool m_asking = false;                         // whether to end
     Clock m_clock;

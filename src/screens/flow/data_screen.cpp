@@ -132,13 +132,16 @@ void ImportScreen::setHint(const QString& advice)
 
 void ImportScreen::updateMessage()
 {
-    const bool mixed = !m_importedFrom.isEmpty() && m_importedFrom != m_path;
-    QStringList texts{m_remark, mixed ? "The figures in the boxes are from another data file." : ""};
-    texts.removeAll("");
-    m_message->setText(texts.isEmpty() ? m_hint : texts.join(' '));
+    m_message->setText(m_remark.isEmpty() ? m_hint : m_remark);
 }
 
 void ImportScreen::onFirstShown()
+{
+    m_entriesAtFirst = entries();
+    reportSource();
+}
+
+void ImportScreen::reportSource()
 {
     if (m_needsPermission) {
         const bool isAllowed = chain.dialogs().askYesNo(*this, m_sourceCaption,
@@ -157,17 +160,33 @@ void ImportScreen::onFirstShown()
 
 void ImportScreen::onShownAgain()
 {
-    const QString& path = chain.srSe().dataFile;
-    if (cmdNext.isEnabled() || path.trimmed().isEmpty() || path == m_path)
+    const bool keepsFile = cmdNext.isEnabled() || (!grid.isHidden() && !isUntouched());
+    if (keepsFile || chain.srSe().dataFile == m_path)
         return;
-    readSource(path);
-    onFirstShown();
+    readSource(chain.srSe().dataFile);
+    reportSource();
+}
+
+bool ImportScreen::isUntouched() const
+{
+    return !m_imported && !cmdNext.isEnabled() && entries() == m_entriesAtFirst;
+}
+
+QStringList ImportScreen::entries() const
+{
+    QStringList all;
+    for (const auto* line : findChildren<const QLineEdit*>())  // a list to choose from has one
+        if (!line->isReadOnly() && !line->text().isEmpty())
+            all += line->text();
+    for (const auto* button : findChildren<const QAbstractButton*>())
+        if (button->isChecked())
+            all += button->objectName();
+    return all;
 }
 
 void ImportScreen::finishImport()
 {
-    m_importedFrom = m_path;
-    updateMessage();
+    m_imported = true;
     if (m_opensCompute) {
         m_computeOpened = true;
         compute.setEnabled(true);

@@ -77,16 +77,22 @@ protected:
     QString cell(int row, int column) const { return grid.TextMatrix(row, column); }
 
     void onFirstShown() override;
-    /// Reads the table of another data file, if the user has chosen another one before Compute; the boxes stay as they
-    /// are. A screen that is computed keeps its table too: the summary takes figures from it.
+    /// Takes up another data file chosen since, as long as the screen is untouched or has no table yet.
     void onShownAgain() override;
+    /// Nothing has been entered, imported or computed yet. What has been stays under the name and file it began with.
+    bool isUntouched() const;
+    /// Full path of the file whose table is shown; blank if none was chosen.
+    const QString& dataFile() const { return m_path; }
 
     controls::DataGrid grid;
 
 private:
     void readSource(const QString& path);
     void openComputeByTyping();
+    void reportSource();
     void updateMessage();
+    /// What stands where the user can type or choose.
+    QStringList entries() const;
 
     QString m_tableName;
     QString m_sourceCaption;
@@ -98,7 +104,8 @@ private:
     QString m_reason;  // why it could not be
     QString m_remark;  // on the file
     QString m_hint;
-    QString m_importedFrom;
+    QStringList m_entriesAtFirst;
+    bool m_imported = false;
     bool m_needsPermission = false;  // to read the file
     bool m_isStale = false;          // the file was written to while it was read
 };

@@ -177,6 +177,47 @@ TEST_F(ChainTest, TheNextScreenOpensWhereTheUserHasPutTheOneBefore)
     EXPECT_LE(t1.y() + t1.height(), QApplication::primaryScreen()->availableGeometry().bottom());
 }
 
+TEST_F(ChainTest, TheSizeOfAWindowGoesWithTheUserFromScreenToScreen)
+{
+    auto& start = on<frmStart>();
+    dialogs.expectFile("");
+    click("cmdFile");
+    start.resize(1200, 650);
+    click("cmdProceed");
+    auto& t1 = nowOn<frmT1>();
+    EXPECT_EQ(t1.size(), QSize(1200, 650));
+    t1.resize(1250, 660);
+    t1.cmdNext.setEnabled(true);
+    expectPrintQuestion(false);
+    click("cmdNext");
+    EXPECT_EQ(nowOn<frmT2>().size(), QSize(1250, 660));
+
+    start.resize(1300, 670);
+    on<frmStart>();
+    click("cmdProceed");
+    EXPECT_EQ(nowOn<frmT1>().size(), QSize(1300, 670)) << "also to a screen that is shown again";
+}
+
+TEST_F(ChainTest, BeingMaximisedGoesWithTheUserFromScreenToScreen)
+{
+    auto& start = on<frmStart>();
+    dialogs.expectFile("");
+    click("cmdFile");
+    start.resize(1200, 650);
+    settle();
+    start.showMaximized();
+    settle();
+    click("cmdProceed");
+    auto& t1 = nowOn<frmT1>();
+    EXPECT_TRUE(t1.isMaximized());
+    start.showNormal();
+    settle();
+    on<frmStart>();
+    click("cmdProceed");
+    EXPECT_FALSE(nowOn<frmT1>().isMaximized());
+    EXPECT_EQ(t1.size(), start.size());
+}
+
 TEST_F(ChainTest, AScreenShownAgainComesToTheFrontWhereItWas)
 {
     auto& start = on<frmStart>();
