@@ -5,6 +5,7 @@
 #include "figures/conversions.h"
 #include "figures/numeric_text.h"
 #include "figures/picture.h"
+#include "screens/controls/entry.h"
 #include "screens/flow/chain.h"
 #include "screens/flow/printing.h"
 #include "start/frmStart.h"
@@ -118,6 +119,8 @@ void frmSummary::cmdCompute_Click()
     setText(txtTMan(r), picture(computed.RowTMan, "#####.##"));
     setText(txtCS(r), picture(computed.RowCS, "####"));
     setText(txtEx(r), picture(computed.RowEx, "####"));
+    for (Column* result : {&txtTMan, &txtCS, &txtEx})
+        controls::bringIntoView((*result)(r));
 
     if (SrSEIndex < NumSrSE)
         nextSrSe();
@@ -189,6 +192,8 @@ void frmSummary::cmdTotal_Click()
     setText(txtSS(Total), picture(totals.TotSS, "#####"));
     setText(txtSDC(Total), picture(totals.TotSDC, "#####"));
     setText(txtEx(Total), picture(totals.TotEx, "#####"));
+    for (Column* total : {&txtTkm, &txtEx})
+        controls::bringIntoView((*total)(Total));
 
     cmdPrint.setEnabled(true);
     focusDefault(cmdPrint);
