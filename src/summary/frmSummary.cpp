@@ -5,7 +5,6 @@
 #include "figures/conversions.h"
 #include "figures/numeric_text.h"
 #include "figures/picture.h"
-#include "screens/controls/entry.h"
 #include "screens/flow/chain.h"
 #include "screens/flow/printing.h"
 #include "start/frmStart.h"
@@ -119,8 +118,6 @@ void frmSummary::cmdCompute_Click()
     setText(txtTMan(r), picture(computed.RowTMan, "#####.##"));
     setText(txtCS(r), picture(computed.RowCS, "####"));
     setText(txtEx(r), picture(computed.RowEx, "####"));
-    for (Column* result : {&txtTMan, &txtCS, &txtEx})
-        controls::bringIntoView((*result)(r));
 
     if (SrSEIndex < NumSrSE)
         nextSrSe();
@@ -192,8 +189,6 @@ void frmSummary::cmdTotal_Click()
     setText(txtSS(Total), picture(totals.TotSS, "#####"));
     setText(txtSDC(Total), picture(totals.TotSDC, "#####"));
     setText(txtEx(Total), picture(totals.TotEx, "#####"));
-    for (Column* total : {&txtTkm, &txtEx})
-        controls::bringIntoView((*total)(Total));
 
     cmdPrint.setEnabled(true);
     focusDefault(cmdPrint);

@@ -3,11 +3,8 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
-#include <algorithm>
 #include <utility>
-#include <vector>
 
-#include "screens/controls/entry.h"
 #include "screens/flow/chain.h"
 
 namespace flow {
@@ -39,21 +36,6 @@ void StepScreen::finishCompute()
     cmdPrint.setEnabled(true);
     focusDefault(cmdPrint);
     compute.setEnabled(false);
-    bringResultsIntoView();
-}
-
-void StepScreen::bringResultsIntoView()
-{
-    std::vector<std::pair<QPoint, QWidget*>> results;
-    for (auto* box : findChildren<controls::TextBox*>())
-        if (box->isLocked() && box->isVisible())
-            results.emplace_back(box->mapTo(this, QPoint()), box);
-    // Row by row: where there is no room for all, the last rows and columns stay in view, and there the totals are.
-    std::sort(results.begin(), results.end(), [](const auto& a, const auto& b) {
-        return std::pair(a.first.y(), a.first.x()) < std::pair(b.first.y(), b.first.x());
-    });
-    for (const auto& result : results)
-        controls::bringIntoView(*result.second);
 }
 
 void StepScreen::onPrinted()

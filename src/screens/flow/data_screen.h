@@ -32,8 +32,8 @@ protected:
     /// `computeButton` is a member of the form: kept, not used, until the form is constructed.
     StepScreen(Chain& chain, const QString& name, const QString& caption, controls::Button& computeButton);
 
-    /// After a Compute that ended well: Next and Print are open, Compute is done for this Sr SE, the results are in
-    /// view, and the user goes on to print.
+    /// After a Compute that ended well: Next and Print are open, Compute is done for this Sr SE, and the user goes on
+    /// to print.
     void finishCompute();
 
     /// With the sheet printed, the user goes on to Next.
@@ -42,9 +42,6 @@ protected:
     void cmdNext_Click();
 
     controls::Button& compute;
-
-private:
-    void bringResultsIntoView();
 };
 
 /// A step whose boxes can be filled from the Sr SE's data file.

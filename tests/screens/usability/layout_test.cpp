@@ -165,6 +165,13 @@ void expectHeaderAndButtonsStay(const QWidget& form, QSize window)
 
 class Layout : public TenScreens {  // slow
 protected:
+    /// A desktop's room for a window, in logical pixels, less the frame.
+    static QSize windowOn(QSize desktop, double scale)
+    {
+        return QSize(static_cast<int>(desktop.width() / scale), static_cast<int>(desktop.height() / scale)) -
+               QSize(26, 78);  // a frame, a title bar and the desktop's own bar: 1366x768 leaves 1340x690
+    }
+
     void expectWell(QSize window, bool fits)
     {
         sized(window);

@@ -18,17 +18,8 @@ protected:
         std::string compute;  ///< "" on the start screen
     };
 
-    /// A desktop's room for a window, in logical pixels, less the frame.
-    static QSize windowOn(QSize desktop, double scale)
-    {
-        return QSize(static_cast<int>(desktop.width() / scale), static_cast<int>(desktop.height() / scale)) -
-               QSize(26, 78);  // a frame, a title bar and the desktop's own bar: 1366x768 leaves 1340x690
-    }
-
-    /// Works the sample as the only Sr SE of its division, so that all screens stay. Each step is given to `before` as
-    /// its screen opens, and to `imported` with nothing left to do but Compute.
-    void workSample(const std::function<void(const Step&)>& before = {},
-                    const std::function<void(const Step&)>& imported = {})
+    /// Works the sample as the only Sr SE of its division, so that all screens stay.
+    void workSample(const std::function<void(const Step&)>& before = {})
     {
         begin();
         type("txtT1(5)", "Sample Railway");
@@ -50,8 +41,6 @@ protected:
                 before(steps.back());
             if (!steps.back().import.empty())
                 click(steps.back().import);
-            if (imported)
-                imported(steps.back());
             click(steps.back().compute);
         }
         click("cmdTotal");
