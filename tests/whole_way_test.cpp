@@ -10,7 +10,6 @@
 #include "activities/site/frmS2.h"
 #include "start/frmStart.h"
 #include "summary/frmSummary.h"
-#include "support/pdf.h"
 #include "support/screen_test.h"
 #include "support/tsv.h"
 #include "track/frmT1.h"

@@ -3,8 +3,10 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QTest>
 #include <algorithm>
 #include <stdexcept>
@@ -193,4 +195,13 @@ std::string ScreenTest::sample(const std::string& name)
 std::string ScreenTest::fixture(const std::string& name)
 {
     return std::string(CREWMARK_TEST_DATA) + "/" + name;
+}
+
+int pagesOf(const std::string& pdf)
+{
+    QFile file(QString::fromStdString(pdf));
+    if (!file.open(QIODevice::ReadOnly))
+        return -1;
+    const QString content = QString::fromLatin1(file.readAll());
+    return static_cast<int>(content.count(QRegularExpression("/Type\\s*/Page\\b")));
 }

@@ -82,3 +82,6 @@ private:
 
     flow::Screen* m_form = nullptr;
 };
+
+/// Pages of a PDF file.
+int pagesOf(const std::string& pdf);

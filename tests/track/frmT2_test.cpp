@@ -2,7 +2,6 @@
 
 #include "start/frmStart.h"
 #include "support/lock_tip.h"
-#include "support/pdf.h"
 #include "track/frmT4.h"
 #include "track/ground_screen.h"
 

@@ -1,7 +1,6 @@
 #include <QTemporaryDir>
 
 #include "support/lock_tip.h"
-#include "support/pdf.h"
 #include "track/mandays_screen.h"
 
 namespace {

@@ -1,8 +1,5 @@
-#include <QTemporaryDir>
-
 #include "activities/misc/frmM1.h"
 #include "support/lock_tip.h"
-#include "support/pdf.h"
 #include "yards/yard_screen.h"
 
 namespace {
@@ -313,8 +310,7 @@ TEST_F(YardScreen, APrintedFormMovesOnAtOnceAndKeepsItsContents)
     type("txtNYd", "1");
     typeRow(0, {"Ambapur", "", "1"});
     click("cmdCOMPUTE");
-    const QTemporaryDir prints;
-    const std::string pdf = prints.filePath("frmY").toStdString();
+    const std::string pdf = testing::TempDir() + "frmY.pdf";
     dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 1}, pdf);
     click("cmdPrint");
     EXPECT_EQ(form.Printed, 1);

@@ -1,9 +1,6 @@
-#include <QTemporaryDir>
-
 #include "activities/misc/frmM2.h"
 #include "activities/misc/patrolling_screen.h"
 #include "support/lock_tip.h"
-#include "support/pdf.h"
 
 namespace {
 
@@ -358,8 +355,7 @@ TEST_F(PatrollingScreen, NextAsksUntilTheFormIsPrinted)
     click("cmdNext");
     EXPECT_FALSE(chain.isLoaded<frmM2>());
 
-    const QTemporaryDir prints;
-    const std::string pdf = prints.filePath("frmM1").toStdString();
+    const std::string pdf = testing::TempDir() + "frmM1.pdf";
     dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 1}, pdf);
     click("cmdPrint");
     EXPECT_EQ(form.Printed, 1);

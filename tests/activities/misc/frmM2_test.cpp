@@ -1,9 +1,6 @@
-#include <QTemporaryDir>
-
 #include "activities/misc/gate_screen.h"
 #include "activities/site/frmS1.h"
 #include "support/lock_tip.h"
-#include "support/pdf.h"
 #include "track/frmT1.h"
 
 namespace {
@@ -176,8 +173,7 @@ TEST_F(GateScreen, NextAsksUntilTheFormIsPrinted)
     click("cmdNext");
     EXPECT_FALSE(chain.isLoaded<frmS1>());
 
-    const QTemporaryDir prints;
-    const std::string pdf = prints.filePath("frmM2").toStdString();
+    const std::string pdf = testing::TempDir() + "frmM2.pdf";
     dialogs.expectPrint({.firstPage = 1, .lastPage = 1, .copies = 2}, pdf);
     click("cmdPrint");
     EXPECT_EQ(form.Printed, 1);

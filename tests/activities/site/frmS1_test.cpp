@@ -1,9 +1,6 @@
 #include "activities/site/frmS1.h"
 
-#include <QTemporaryDir>
-
 #include "activities/site/site_screen.h"
-#include "support/pdf.h"
 
 namespace {
 
@@ -378,8 +375,7 @@ TEST_F(FirstSiteScreen, PrintedItGoesOnAtOnce)
     auto& form = open<frmS1>(sample("1-ambapur.mdb"));
     click("cmdData");
     click("cmdCompute");
-    const QTemporaryDir prints;
-    const std::string pdf = prints.filePath("frmS1").toStdString();
+    const std::string pdf = testing::TempDir() + "frmS1.pdf";
     dialogs.expectPrint({1, 1, 2}, pdf);
     click("cmdPrint");
     EXPECT_EQ(form.Printed, 1);

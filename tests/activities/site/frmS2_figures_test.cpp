@@ -1,10 +1,7 @@
 #include "activities/site/frmS2.h"
 
-#include <QTemporaryDir>
-
 #include "activities/site/site_screen.h"
 #include "summary/frmSummary.h"
-#include "support/pdf.h"
 
 namespace {
 
@@ -226,8 +223,7 @@ TEST_F(SecondSiteScreen, NextAsksUntilPrinted)
     click("cmdNext");
     EXPECT_FALSE(chain.isLoaded<frmSummary>());
 
-    const QTemporaryDir prints;
-    const std::string pdf = prints.filePath("frmS2").toStdString();
+    const std::string pdf = testing::TempDir() + "frmS2.pdf";
     dialogs.expectPrint({1, 1, 1}, pdf);
     click("cmdPrint");
     EXPECT_EQ(form.Printed, 1);

@@ -6,7 +6,6 @@
 #include <QTest>
 
 #include "start/frmStart.h"
-#include "support/pdf.h"
 #include "support/screen_test.h"
 #include "track/frmT1.h"
 #include "track/frmT2.h"

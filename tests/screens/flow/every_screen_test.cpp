@@ -3,7 +3,6 @@
 
 #include "screens/flow/data_screen.h"
 #include "support/lock_tip.h"
-#include "support/pdf.h"
 #include "support/screen_test.h"
 
 namespace {
