@@ -52,6 +52,7 @@ const Unseen NobodySees[] = {
     {"the printer did not start",            "Print ends quietly"},
     {"the printer took no further page",     "Print ends quietly"},
     {"the printer did not finish",           "Print ends quietly"},
+    {"whole part of",                        "no screen shows yet how a figure came about"},
 };
 // clang-format on
 
